@@ -1,0 +1,31 @@
+# Third-party libraries. Each is wrapped in one module, which names it in its LIBRARIES.
+find_package(PkgConfig REQUIRED)
+foreach(Library IN ITEMS
+        freetype2 harfbuzz icu-uc icu-i18n sdl2 epoxy egl libpng libjpeg libwebp libcurl lua5.4-c++)
+    string(MAKE_C_IDENTIFIER "${Library}" Id)
+    pkg_check_modules(${Id} REQUIRED IMPORTED_TARGET ${Library})
+    add_library(Library::${Library} ALIAS PkgConfig::${Id})
+endforeach()
+find_package(fmt REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(GTest REQUIRED)
+find_package(Threads REQUIRED)
+add_library(Library::fmt ALIAS fmt::fmt-header-only)
+add_library(Library::CLI11 ALIAS CLI11::CLI11)
+
+find_path(SIMPLEINI_INCLUDE_DIR SimpleIni.h REQUIRED)
+add_library(SimpleIni INTERFACE)
+target_include_directories(SimpleIni SYSTEM INTERFACE ${SIMPLEINI_INCLUDE_DIR})
+add_library(Library::SimpleIni ALIAS SimpleIni)
+
+find_path(RAPIDJSON_INCLUDE_DIR rapidjson/rapidjson.h REQUIRED)
+add_library(RapidJson INTERFACE)
+target_include_directories(RapidJson SYSTEM INTERFACE ${RAPIDJSON_INCLUDE_DIR})
+add_library(Library::RapidJson ALIAS RapidJson)
+
+find_path(CLANG_C_INCLUDE_DIR clang-c/Index.h PATHS /usr/lib/llvm-14/include REQUIRED)
+find_library(CLANG_C_LIBRARY NAMES clang-14 clang PATHS /usr/lib/llvm-14/lib REQUIRED)
+add_library(LibClang INTERFACE)
+target_include_directories(LibClang SYSTEM INTERFACE ${CLANG_C_INCLUDE_DIR})
+target_link_libraries(LibClang INTERFACE ${CLANG_C_LIBRARY})
+add_library(Library::LibClang ALIAS LibClang)

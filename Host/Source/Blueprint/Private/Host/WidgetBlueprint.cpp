@@ -1,0 +1,106 @@
+#include "Host/WidgetBlueprint.h"
+
+#include "Blueprint/UserWidget.h"
+#include "Blueprint/WidgetBlueprintGeneratedClass.h"
+#include "Blueprint/WidgetTree.h"
+#include "Host/AssetLoaders.h"
+#include "Host/BlueprintReport.h"
+#include "Host/BlueprintVariables.h"
+#include "Host/JsonDocument.h"
+#include "Host/PropertyJson.h"
+#include "Host/WidgetBindingChecks.h"
+#include "Host/WidgetClassNames.h"
+#include "Host/WidgetGraph.h"
+#include "Host/WidgetTreeReader.h"
+#include "UObject/Package.h"
+
+namespace Host
+{
+	namespace
+	{
+		/** The class that the blueprint derives from; UserWidget, after an error, when the file names no other. */
+		UClass* ReadParent(const FJsonNode& Root)
+		{
+			const FJsonNode ParentNode = Root.Find(TEXT("Parent"));
+			if (!ParentNode)
+			{
+				return UUserWidget::StaticClass();
+			}
+			FString Name;
+			FString Reason = TEXT("\"Parent\" must be the path of a class.");
+			UClass* Parent = ParentNode.TryGetString(Name) ? FindWidgetClass(Name, Reason) : nullptr;
+			if (Parent && !Parent->IsChildOf(UUserWidget::StaticClass()))
+			{
+				Reason = FString::Printf(TEXT("'%s' is no class of user widgets."), *Name);
+				Parent = nullptr;
+			}
+			if (!Parent)
+			{
+				ReportBlueprintError(ParentNode, Reason);
+				return UUserWidget::StaticClass();
+			}
+			return Parent;
+		}
+
+		void ReportUnknownMembers(const FJsonNode& Root)
+		{
+			static const TCHAR* const Known[] = { TEXT("Parent"), TEXT("Defaults"), TEXT("Variables"), TEXT("Root") };
+			for (const FJsonNode Member : Root)
+			{
+				const FString Key(Member.GetKey());
+				bool bKnown = false;
+				for (const TCHAR* Name : Known)
+				{
+					bKnown |= Key.Equals(Name);
+				}
+				if (!bKnown)
+				{
+					ReportBlueprintError(Member, FString::Printf(TEXT("a widget blueprint has no member \"%s\"."), *Key));
+				}
+			}
+		}
+	}
+
+	UObject* LoadWidgetBlueprint(const FAssetRequest& Request)
+	{
+		FJsonDocument Document;
+		const bool bRead = Document.LoadFile(Request.Filename);
+		for (const FString& Error : Document.GetErrors())
+		{
+			ReportBlueprintError(Error);
+		}
+		if (!bRead)
+		{
+			return nullptr;
+		}
+		const FJsonNode Root = Document.GetRoot();
+		if (!Root.IsObject())
+		{
+			ReportBlueprintError(Root, FString::Printf(TEXT("a widget blueprint must be an object, not %s."), DescribeJsonKind(Root.GetKind())));
+			return nullptr;
+		}
+		ReportUnknownMembers(Root);
+
+		const FName ClassName(*(Request.AssetName.ToString() + TEXT("_C")));
+		UWidgetBlueprintGeneratedClass* Class = NewObject<UWidgetBlueprintGeneratedClass>(Request.Package, ClassName, RF_Public | RF_Standalone);
+		Class->SetSuperStruct(ReadParent(Root));
+		Class->ClassFlags &= ~CLASS_Abstract;
+		AddBlueprintVariables(*Class, Root.Find(TEXT("Variables")));
+		LoadWidgetGraph(*Class, Request.Filename);
+		Class->StaticLink();
+
+		UObject* Defaults = Class->GetDefaultObject();
+		ReadVariableDefaults(*Class, Root.Find(TEXT("Variables")), *Defaults);
+		if (const FJsonNode DefaultsNode = Root.Find(TEXT("Defaults")))
+		{
+			FPropertyJson::ReadObject(DefaultsNode, Defaults, [](const FString& Message) { ReportBlueprintError(Message); });
+		}
+
+		Class->WidgetTreeTemplate = NewObject<UWidgetTree>(Class, TEXT("WidgetTree"));
+		FWidgetTreeReader Reader(*Class->WidgetTreeTemplate);
+		Reader.Read(Root.Find(TEXT("Root")));
+		Class->NamedSlots = Reader.GetNamedSlots();
+		CheckWidgetBindings(*Class, Root);
+		return Class;
+	}
+}

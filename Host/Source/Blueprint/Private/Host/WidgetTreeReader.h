@@ -1,0 +1,40 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/JsonDocument.h"
+
+class UClass;
+class UObject;
+class UWidget;
+class UWidgetTree;
+
+namespace Host
+{
+	/** Makes the widgets of a blueprint's tree from its file. */
+	class FWidgetTreeReader
+	{
+	public:
+		explicit FWidgetTreeReader(UWidgetTree& InTree)
+			: Tree(InTree)
+		{
+		}
+
+		/** Makes the root and everything under it. What cannot be made is reported and left out. */
+		void Read(const FJsonNode& RootNode);
+
+		/** Names of the holes that users of the blueprint can fill, in the order of the file. */
+		const TArray<FName>& GetNamedSlots() const { return NamedSlots; }
+
+	private:
+		UWidget* ReadWidget(const FJsonNode& Node);
+		UClass* ReadClass(const FJsonNode& Node);
+		FName ReadName(const FJsonNode& Node, const UClass& Class);
+		void ReadProperties(const FJsonNode& Properties, UObject& Object);
+		void ReadChildren(const FJsonNode& Children, UWidget& Parent);
+		void ReadNamedSlots(const FJsonNode& Slots, UWidget& Widget);
+		void ReportUnknownMembers(const FJsonNode& Node);
+
+		UWidgetTree& Tree;
+		TArray<FName> NamedSlots;
+	};
+}

@@ -1,0 +1,199 @@
+#include "Host/Files.h"
+
+#include "HAL/NativePath.h"
+#include "Math/UnrealMathUtility.h"
+#include "Templates/UnrealTemplate.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+	FString DescribeError(int Error)
+	{
+		return Host::FromNative(std::strerror(Error));
+	}
+
+	/** An open file, closed at the end. */
+	class FDescriptor
+	{
+	public:
+		explicit FDescriptor(int InValue) : Value(InValue) {}
+		~FDescriptor() { Close(); }
+		FDescriptor(const FDescriptor&) = delete;
+		FDescriptor& operator=(const FDescriptor&) = delete;
+
+		bool IsValid() const { return Value >= 0; }
+		int Get() const { return Value; }
+
+		/** Returns false when what was written may not have arrived. */
+		bool Close()
+		{
+			const int Closed = Value;
+			Value = -1;
+			return Closed < 0 || close(Closed) == 0;
+		}
+
+	private:
+		int Value;
+	};
+
+	bool WriteAll(int File, const char* Bytes, SIZE_T Size)
+	{
+		while (Size > 0)
+		{
+			const ssize_t Written = write(File, Bytes, Size);
+			if (Written < 0)
+			{
+				if (errno == EINTR)
+				{
+					continue;
+				}
+				return false;
+			}
+			Bytes += Written;
+			Size -= SIZE_T(Written);
+		}
+		return true;
+	}
+
+	/** The rights of a new file: those of the one it replaces, else those of any new file. */
+	mode_t ChooseMode(const std::string& Replaced)
+	{
+		struct stat Status;
+		if (stat(Replaced.c_str(), &Status) == 0)
+		{
+			return Status.st_mode & 07777;
+		}
+		const mode_t Mask = umask(0);
+		umask(Mask);
+		return 0666 & ~Mask;
+	}
+
+	/** Makes a rename in the folder last through a crash. */
+	void SyncFolder(const std::filesystem::path& Folder)
+	{
+		const FDescriptor Descriptor(open(Folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+		if (Descriptor.IsValid())
+		{
+			// The content is in place whether or not the file system can promise this.
+			(void)fsync(Descriptor.Get());
+		}
+	}
+
+	/** Writes to a new file beside the target and moves it there. Returns 0 or the error. */
+	int ReplaceFile(const std::filesystem::path& Target, const void* Bytes, SIZE_T Size)
+	{
+		std::string Temporary = Target.native() + ".XXXXXX";
+		FDescriptor Descriptor(mkostemp(Temporary.data(), O_CLOEXEC));
+		if (!Descriptor.IsValid())
+		{
+			return errno;
+		}
+		const bool bWritten = fchmod(Descriptor.Get(), ChooseMode(Target.native())) == 0
+			&& WriteAll(Descriptor.Get(), static_cast<const char*>(Bytes), Size)
+			&& fsync(Descriptor.Get()) == 0
+			&& Descriptor.Close()
+			&& rename(Temporary.c_str(), Target.c_str()) == 0;
+		if (!bWritten)
+		{
+			const int Error = errno;
+			unlink(Temporary.c_str());
+			return Error;
+		}
+		SyncFolder(Target.parent_path());
+		return 0;
+	}
+}
+
+bool Host::FFiles::Read(const FString& Filename, int64 MaxBytes, TArray<uint8>& OutBytes, FString& OutReason)
+{
+	// Without waiting, so that a pipe in place of a file stops nothing.
+	const FDescriptor Descriptor(open(ToNativePath(Filename).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+	struct stat Status;
+	if (!Descriptor.IsValid() || fstat(Descriptor.Get(), &Status) != 0)
+	{
+		OutReason = DescribeError(errno);
+		return false;
+	}
+	if (!S_ISREG(Status.st_mode))
+	{
+		OutReason = S_ISDIR(Status.st_mode) ? TEXT("is a folder, not a file") : TEXT("is no regular file");
+		return false;
+	}
+	if (int64(Status.st_size) > FMath::Min<int64>(MaxBytes, MAX_int32))
+	{
+		OutReason = FString::Printf(TEXT("has %lld bytes, at most %lld are accepted"), int64(Status.st_size), FMath::Min<int64>(MaxBytes, MAX_int32));
+		return false;
+	}
+
+	TArray<uint8> Bytes;
+	Bytes.SetNumUninitialized(int32(Status.st_size));
+	int32 Count = 0;
+	while (Count < Bytes.Num())
+	{
+		const ssize_t Part = read(Descriptor.Get(), Bytes.GetData() + Count, SIZE_T(Bytes.Num() - Count));
+		if (Part < 0 && errno == EINTR)
+		{
+			continue;
+		}
+		if (Part < 0)
+		{
+			OutReason = DescribeError(errno);
+			return false;
+		}
+		if (Part == 0)
+		{
+			break;
+		}
+		Count += int32(Part);
+	}
+	// Another program may have cut the file meanwhile.
+	Bytes.SetNum(Count);
+	OutBytes = MoveTemp(Bytes);
+	return true;
+}
+
+bool Host::FFiles::Write(const FString& Filename, const void* Bytes, int64 Size, FString& OutReason)
+{
+	std::filesystem::path Target = ToNativePath(Filename);
+	std::error_code Absent;
+	std::error_code Error;
+	if (std::filesystem::is_symlink(Target, Absent))
+	{
+		Target = std::filesystem::weakly_canonical(Target, Error);
+	}
+	if (!Error && Target.has_parent_path())
+	{
+		std::filesystem::create_directories(Target.parent_path(), Error);
+	}
+	if (std::filesystem::is_directory(Target, Absent))
+	{
+		OutReason = TEXT("is a folder, not a file");
+		return false;
+	}
+	if (Error)
+	{
+		OutReason = DescribeError(Error.value());
+		return false;
+	}
+	if (const int ReplaceError = ReplaceFile(Target, Bytes, SIZE_T(Size)); ReplaceError != 0)
+	{
+		OutReason = DescribeError(ReplaceError);
+		return false;
+	}
+	return true;
+}
+
+FString Host::FFiles::Resolve(const FString& Path)
+{
+	std::error_code Error;
+	const std::filesystem::path Resolved = std::filesystem::canonical(ToNativePath(Path), Error);
+	return Error ? FString() : FromNativePath(Resolved);
+}

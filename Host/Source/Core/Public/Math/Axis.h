@@ -1,0 +1,13 @@
+#pragma once
+
+/** An axis of space. */
+namespace EAxis
+{
+	enum Type
+	{
+		None,
+		X,
+		Y,
+		Z
+	};
+}

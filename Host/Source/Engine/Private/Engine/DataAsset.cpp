@@ -1,0 +1,6 @@
+#include "Engine/DataAsset.h"
+
+UDataAsset::UDataAsset(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+}

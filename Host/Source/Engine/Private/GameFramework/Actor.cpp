@@ -1,0 +1,6 @@
+#include "GameFramework/Actor.h"
+
+AActor::AActor(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+}

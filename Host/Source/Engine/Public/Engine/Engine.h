@@ -1,0 +1,54 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Subsystems/EngineSubsystem.h"
+#include "Subsystems/SubsystemCollection.h"
+#include "UObject/Object.h"
+#include "Engine.generated.h"
+
+class UGameInstance;
+class UGameViewportClient;
+
+/** What lives as long as the program: the engine's subsystems and the running game. */
+UCLASS(Transient)
+class ENGINE_API UEngine : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	/** The viewport of the running game; null when there is none. */
+	UPROPERTY(Transient)
+	TObjectPtr<UGameViewportClient> GameViewport;
+
+	/** Creates the engine subsystems, then the game. */
+	virtual void Init();
+
+	/** Ends the game, then the subsystems. */
+	virtual void PreExit();
+
+	/** Advances the running game by a frame. */
+	virtual void Tick(float DeltaSeconds);
+
+	UGameInstance* GetGameInstance() const { return GameInstance; }
+
+	/** The engine subsystem of the class, or of one that derives from it; null when it was not created. */
+	template <typename SubsystemType>
+	SubsystemType* GetEngineSubsystem() const
+	{
+		return EngineSubsystems ? EngineSubsystems->GetSubsystem<SubsystemType>(SubsystemType::StaticClass()) : nullptr;
+	}
+
+	UEngineSubsystem* GetEngineSubsystemBase(TSubclassOf<UEngineSubsystem> SubsystemClass) const
+	{
+		return EngineSubsystems ? EngineSubsystems->GetSubsystem<UEngineSubsystem>(SubsystemClass) : nullptr;
+	}
+
+private:
+	UPROPERTY(Transient)
+	TObjectPtr<UGameInstance> GameInstance;
+
+	TUniquePtr<FObjectSubsystemCollection<UEngineSubsystem>> EngineSubsystems;
+};
+
+/** The engine; null early in start-up, late in shut-down and in programs without one. */
+extern ENGINE_API UEngine* GEngine;

@@ -1,0 +1,243 @@
+#include "Host/EngineLoop.h"
+
+#include "Engine/Engine.h"
+#include "Engine/GameInstance.h"
+#include "Engine/GameViewportClient.h"
+#include "Engine/World.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Host/Clock.h"
+#include "Host/ConfigFiles.h"
+#include "Host/DesktopApplication.h"
+#include "Host/DesktopInput.h"
+#include "Host/GameThreadQueue.h"
+#include "Host/Mounts.h"
+#include "Host/SlateLoop.h"
+#include "Host/StartModules.h"
+#include "Misc/Paths.h"
+#include "Modules/ModuleManager.h"
+#include "UObject/GarbageCollection.h"
+#include "UObject/UObjectGlobals.h"
+#include "Widgets/SOverlay.h"
+#include "Widgets/SWindow.h"
+
+namespace Host
+{
+	namespace
+	{
+		/** Seconds between collections while frames run. */
+		constexpr double CollectionInterval = 30.0;
+		/** Length of the frames of a headless program: what a screen would give it. */
+		constexpr double HeadlessFrame = 1.0 / 60.0;
+	}
+
+	FEngineLoop::FEngineLoop() = default;
+
+	FEngineLoop::~FEngineLoop()
+	{
+		Exit();
+	}
+
+	bool FEngineLoop::Init(const FEngineLoopSettings& InSettings, FString& OutError)
+	{
+		check(!bStarted);
+		Settings = InSettings;
+		bStarted = true;
+		bExitRequested = false;
+
+		if (!FMounts::Add(TEXT("/HalvexPro/"), FPaths::Combine(Settings.PluginFolder, TEXT("Content"))))
+		{
+			OutError = FString::Printf(TEXT("%s has no content."), *Settings.PluginFolder);
+			Exit();
+			return false;
+		}
+		FConfigFiles::AddPluginFolder(FPaths::Combine(Settings.PluginFolder, TEXT("Config")));
+		if (!StartPlatform(OutError))
+		{
+			Exit();
+			return false;
+		}
+		FSlateApplication::Create();
+		FSlateApplication::Get().InitializeRenderer(Renderer.ToSharedRef());
+		StartLinkedModules();
+
+		GEngine = NewObject<UEngine>();
+		GEngine->AddToRoot();
+		GEngine->Init();
+		StartWindow();
+		LastCollection = FClock::Now();
+		return true;
+	}
+
+	bool FEngineLoop::StartPlatform(FString& OutError)
+	{
+		if (!Settings.bHeadless)
+		{
+			Desktop = FDesktopApplication::Create(OutError);
+			if (!Desktop)
+			{
+				return false;
+			}
+			Input = MakeUnique<FDesktopInput>(*this);
+			FGameThreadQueue::SetWakeUp([] { FDesktopApplication::Wake(); });
+		}
+		Renderer = MakeRenderer(Settings.Renderer, Settings.bHeadless, OutError);
+		return Renderer.IsValid();
+	}
+
+	void FEngineLoop::StartWindow()
+	{
+		Window = SNew(SWindow)
+			.Title(Settings.Title)
+			.ClientSize(FVector2D(Settings.WindowSize))
+			[
+				GEngine->GameViewport->GetViewportOverlay()
+			];
+		float Scale = 1.0f;
+		if (Desktop)
+		{
+			FDesktopWindowSettings WindowSettings;
+			WindowSettings.Title = Settings.Title.ToString();
+			WindowSettings.Size = Settings.WindowSize;
+			WindowSettings.bOpenGl = FString(Renderer->GetName()) == TEXT("gl");
+			if (const TSharedPtr<FGenericWindow> NativeWindow = Desktop->MakeWindow(WindowSettings))
+			{
+				Window->SetNativeWindow(NativeWindow.ToSharedRef());
+				Scale = NativeWindow->GetDPIScaleFactor();
+				int32 Width = 0;
+				int32 Height = 0;
+				NativeWindow->GetClientSize(Width, Height);
+				Window->SetCachedSize(FVector2D(Width, Height));
+			}
+			FSlateApplication::Get().SetPlatformCursor(Desktop->GetCursor());
+		}
+		Window->SetDPIScaleFactor(Settings.Scale > 0.0f ? Settings.Scale : Scale);
+		FSlateApplication::Get().AddWindow(Window.ToSharedRef());
+	}
+
+	int32 FEngineLoop::Run()
+	{
+		FClock::FollowRealTime();
+		while (!bExitRequested)
+		{
+			if (Desktop)
+			{
+				Desktop->PumpEvents(*Input);
+			}
+			FClock::FollowRealTime();
+			RunFrame(0.0);
+			if (Desktop && !bExitRequested)
+			{
+				Desktop->WaitForEvents(GetSecondsUntilNextFrame());
+			}
+		}
+		return ExitCode;
+	}
+
+	void FEngineLoop::RunFrame(double Seconds)
+	{
+		if (Seconds > 0.0)
+		{
+			FClock::Advance(Seconds);
+		}
+		FGameThreadQueue::Run();
+		GEngine->Tick(static_cast<float>(FClock::DeltaTime()));
+		FSlateApplication::Get().Tick();
+		CollectGarbageIfDue();
+	}
+
+	void FEngineLoop::RunUntilIdle(double MaxSeconds)
+	{
+		double Passed = 0.0;
+		do
+		{
+			RunFrame(HeadlessFrame);
+			Passed += HeadlessFrame;
+		} while (Passed < MaxSeconds && GetSecondsUntilNextFrame() >= 0.0 && GetSecondsUntilNextFrame() <= HeadlessFrame);
+	}
+
+	double FEngineLoop::GetSecondsUntilNextFrame() const
+	{
+		if (!FGameThreadQueue::IsEmpty())
+		{
+			return 0.0;
+		}
+		double Seconds = -1.0;
+		const auto Shorten = [&Seconds](double Candidate)
+		{
+			if (Candidate >= 0.0 && (Seconds < 0.0 || Candidate < Seconds))
+			{
+				Seconds = Candidate;
+			}
+		};
+		const double SlateTime = FSlateLoop::GetNextWakeTime();
+		if (SlateTime < MAX_dbl)
+		{
+			Shorten(FMath::Max(0.0, SlateTime - FClock::Now()));
+		}
+		if (const UWorld* World = GEngine->GetGameInstance() ? GEngine->GetGameInstance()->GetWorld() : nullptr; World && !World->IsPaused())
+		{
+			Shorten(World->GetTimerManager().GetSecondsUntilNextTimer());
+		}
+		return Seconds;
+	}
+
+	void FEngineLoop::CollectGarbageIfDue()
+	{
+		if (FClock::Now() - LastCollection >= CollectionInterval)
+		{
+			LastCollection = FClock::Now();
+			CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		}
+	}
+
+	void FEngineLoop::RequestExit(int32 InExitCode)
+	{
+		bExitRequested = true;
+		ExitCode = InExitCode;
+	}
+
+	bool FEngineLoop::TakePicture(FPicture& OutPicture)
+	{
+		FWindowSurface* Surface = Window ? FSlateLoop::FindSurface(*Window) : nullptr;
+		if (!Surface)
+		{
+			return false;
+		}
+		Surface->ReadPixels(OutPicture.Pixels, OutPicture.Size);
+		return true;
+	}
+
+	void FEngineLoop::Exit()
+	{
+		if (!bStarted)
+		{
+			return;
+		}
+		bStarted = false;
+		if (GEngine)
+		{
+			GEngine->PreExit();
+		}
+		Window.Reset();
+		if (FSlateApplication::IsInitialized())
+		{
+			FSlateApplication::Shutdown();
+		}
+		if (GEngine)
+		{
+			GEngine->RemoveFromRoot();
+			GEngine = nullptr;
+		}
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		FGameThreadQueue::SetWakeUp(nullptr);
+		if (Renderer)
+		{
+			Renderer->Destroy();
+			Renderer.Reset();
+		}
+		Input.Reset();
+		Desktop.Reset();
+		FConfigFiles::RemovePluginFolder(FPaths::Combine(Settings.PluginFolder, TEXT("Config")));
+		FMounts::Remove(TEXT("/HalvexPro/"));
+	}
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class SWindow;
+
+namespace Host
+{
+	class FWindowSurface;
+
+	/** What the loop of the program, and what drives it from outside, need of the application. */
+	class SLATE_API FSlateLoop
+	{
+	public:
+		/** Seconds on the clock when there is something to do by itself: the time of now when a frame is due, infinite when nothing is. */
+		static double GetNextWakeTime();
+
+		/** Lays out and paints what changed in all windows, without drawing. */
+		static void Refresh();
+
+		/** The surface that the window is drawn on; null without a renderer. */
+		static FWindowSurface* FindSurface(const SWindow& Window);
+
+		/** The mouse left the windows: nothing is hovered. */
+		static void MouseLeft();
+	};
+}

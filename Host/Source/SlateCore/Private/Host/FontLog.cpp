@@ -1,0 +1,3 @@
+#include "Host/FontLog.h"
+
+DEFINE_LOG_CATEGORY(LogSlateFonts);

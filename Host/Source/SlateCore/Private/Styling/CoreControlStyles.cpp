@@ -1,0 +1,136 @@
+#include "Styling/CoreControlStyles.h"
+
+#include "Brushes/SlateColorBrush.h"
+#include "Brushes/SlateNoResource.h"
+#include "Brushes/SlateRoundedBoxBrush.h"
+#include "Styling/SlateStyle.h"
+#include "Styling/SlateTypes.h"
+
+namespace Host
+{
+	namespace
+	{
+		FLinearColor Grey(uint8 Level)
+		{
+			return FLinearColor(FColor(Level, Level, Level));
+		}
+
+		FLinearColor Accent()
+		{
+			return FLinearColor(FColor(0, 112, 224));
+		}
+
+		FLinearColor BrightAccent()
+		{
+			return FLinearColor(FColor(14, 134, 255));
+		}
+
+		template <typename BrushType>
+		BrushType Sized(BrushType Brush, float Width, float Height)
+		{
+			Brush.SetImageSize(FVector2f(Width, Height));
+			return Brush;
+		}
+
+		FSlateBrush CheckImage(const FLinearColor& Fill, const FLinearColor& Edge)
+		{
+			return Sized(FSlateRoundedBoxBrush(Fill, 3.0f, Edge, 1.0f), 16.0f, 16.0f);
+		}
+
+		void AddCheckBoxes(FSlateStyleSet& Set)
+		{
+			Set.Set("Checkbox", FCheckBoxStyle()
+				.SetCheckBoxType(ESlateCheckBoxType::CheckBox)
+				.SetUncheckedImage(CheckImage(Grey(15), Grey(80)))
+				.SetUncheckedHoveredImage(CheckImage(Grey(15), Grey(128)))
+				.SetUncheckedPressedImage(CheckImage(Grey(26), Grey(128)))
+				.SetCheckedImage(CheckImage(Accent(), Accent()))
+				.SetCheckedHoveredImage(CheckImage(BrightAccent(), BrightAccent()))
+				.SetCheckedPressedImage(CheckImage(Accent(), Grey(192)))
+				.SetUndeterminedImage(CheckImage(Grey(80), Grey(128)))
+				.SetUndeterminedHoveredImage(CheckImage(Grey(96), Grey(160)))
+				.SetUndeterminedPressedImage(CheckImage(Grey(70), Grey(160)))
+				.SetPadding(FMargin(4.0f, 0.0f, 0.0f, 0.0f))
+				.SetBackgroundImage(FSlateNoResource())
+				.SetBackgroundHoveredImage(FSlateNoResource())
+				.SetBackgroundPressedImage(FSlateNoResource()));
+
+			Set.Set("ToggleButtonCheckbox", FCheckBoxStyle()
+				.SetCheckBoxType(ESlateCheckBoxType::ToggleButton)
+				.SetUncheckedImage(FSlateRoundedBoxBrush(Grey(56), 4.0f))
+				.SetUncheckedHoveredImage(FSlateRoundedBoxBrush(Grey(87), 4.0f))
+				.SetUncheckedPressedImage(FSlateRoundedBoxBrush(Grey(36), 4.0f))
+				.SetCheckedImage(FSlateRoundedBoxBrush(Accent(), 4.0f))
+				.SetCheckedHoveredImage(FSlateRoundedBoxBrush(BrightAccent(), 4.0f))
+				.SetCheckedPressedImage(FSlateRoundedBoxBrush(Accent(), 4.0f))
+				.SetUndeterminedImage(FSlateRoundedBoxBrush(Grey(72), 4.0f))
+				.SetUndeterminedHoveredImage(FSlateRoundedBoxBrush(Grey(96), 4.0f))
+				.SetUndeterminedPressedImage(FSlateRoundedBoxBrush(Grey(56), 4.0f))
+				.SetPadding(FMargin(12.0f, 2.0f))
+				.SetBackgroundImage(FSlateNoResource())
+				.SetBackgroundHoveredImage(FSlateNoResource())
+				.SetBackgroundPressedImage(FSlateNoResource()));
+		}
+
+		void AddBars(FSlateStyleSet& Set)
+		{
+			Set.Set("Slider", FSliderStyle()
+				.SetNormalBarImage(FSlateColorBrush(Grey(80)))
+				.SetHoveredBarImage(FSlateColorBrush(Grey(112)))
+				.SetDisabledBarImage(FSlateColorBrush(Grey(46)))
+				.SetNormalThumbImage(Sized(FSlateRoundedBoxBrush(Grey(192), 7.0f), 14.0f, 14.0f))
+				.SetHoveredThumbImage(Sized(FSlateRoundedBoxBrush(FLinearColor::White, 7.0f), 14.0f, 14.0f))
+				.SetDisabledThumbImage(Sized(FSlateRoundedBoxBrush(Grey(96), 7.0f), 14.0f, 14.0f))
+				.SetBarThickness(2.0f));
+
+			Set.Set("ProgressBar", FProgressBarStyle()
+				.SetBackgroundImage(FSlateRoundedBoxBrush(Grey(15), 4.0f))
+				.SetFillImage(FSlateRoundedBoxBrush(Accent(), 4.0f))
+				.SetMarqueeImage(FSlateRoundedBoxBrush(Accent(), 4.0f)));
+		}
+
+		void AddScrolling(FSlateStyleSet& Set)
+		{
+			Set.Set("ScrollBar", FScrollBarStyle()
+				.SetHorizontalBackgroundImage(FSlateNoResource())
+				.SetVerticalBackgroundImage(FSlateNoResource())
+				.SetHorizontalTopSlotImage(FSlateNoResource())
+				.SetVerticalTopSlotImage(FSlateNoResource())
+				.SetHorizontalBottomSlotImage(FSlateNoResource())
+				.SetVerticalBottomSlotImage(FSlateNoResource())
+				.SetNormalThumbImage(FSlateRoundedBoxBrush(Grey(87), 4.0f))
+				.SetHoveredThumbImage(FSlateRoundedBoxBrush(Grey(112), 4.0f))
+				.SetDraggedThumbImage(FSlateRoundedBoxBrush(Grey(128), 4.0f))
+				.SetThickness(8.0f));
+
+			Set.Set("ScrollBox", FScrollBoxStyle()
+				.SetBarThickness(8.0f)
+				.SetTopShadowBrush(FSlateNoResource())
+				.SetBottomShadowBrush(FSlateNoResource())
+				.SetLeftShadowBrush(FSlateNoResource())
+				.SetRightShadowBrush(FSlateNoResource()));
+		}
+
+		void AddTextBoxes(FSlateStyleSet& Set)
+		{
+			Set.Set("NormalEditableTextBox", FEditableTextBoxStyle()
+				.SetBackgroundImageNormal(FSlateRoundedBoxBrush(Grey(15), 4.0f, Grey(56), 1.0f))
+				.SetBackgroundImageHovered(FSlateRoundedBoxBrush(Grey(15), 4.0f, Grey(96), 1.0f))
+				.SetBackgroundImageFocused(FSlateRoundedBoxBrush(Grey(15), 4.0f, Accent(), 1.0f))
+				.SetBackgroundImageReadOnly(FSlateRoundedBoxBrush(Grey(36), 4.0f, Grey(56), 1.0f))
+				.SetPadding(FMargin(8.0f, 3.0f, 8.0f, 4.0f))
+				.SetTextStyle(Set.GetWidgetStyle<FTextBlockStyle>("NormalText"))
+				.SetForegroundColor(Grey(192))
+				.SetFocusedForegroundColor(FLinearColor::White)
+				.SetReadOnlyForegroundColor(Grey(128)));
+		}
+	}
+
+	void AddCoreControlStyles(FSlateStyleSet& Set)
+	{
+		AddCheckBoxes(Set);
+		AddBars(Set);
+		AddScrolling(Set);
+		AddTextBoxes(Set);
+	}
+}

@@ -1,0 +1,3 @@
+#include "RendererLog.h"
+
+DEFINE_LOG_CATEGORY(LogSlateRenderer);

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/Clipboard.h"
+#include "Host/DesktopEvents.h"
+#include "Sdl/SdlCursor.h"
+#include "Sdl/SdlWindow.h"
+
+namespace Host
+{
+	/** The clipboard of the system. */
+	class FSdlClipboard final : public FClipboard
+	{
+	public:
+		virtual void SetText(const FString& Text) override;
+		virtual FString GetText() override;
+	};
+
+	/** What the desktop application knows of its windows and of the mouse, and how it reads SDL's events. */
+	struct FDesktopState
+	{
+		TArray<TWeakPtr<FSdlWindow>> Windows;
+		TSharedRef<FSdlCursor> Cursor = MakeShared<FSdlCursor>();
+		FSdlClipboard Clipboard;
+		TSet<FKey> PressedButtons;
+		FVector2f MousePosition = FVector2f(0.0f, 0.0f);
+
+		TSharedPtr<FSdlWindow> FindWindow(uint32 Id);
+		void Dispatch(const SDL_Event& Event, FDesktopEventHandler& Handler);
+
+	private:
+		FPointerEvent MakePointerEvent(const TSharedRef<FSdlWindow>& Window, float X, float Y, const FKey& Button, float Wheel);
+		void DispatchMotion(const SDL_MouseMotionEvent& Event, FDesktopEventHandler& Handler);
+		void DispatchButton(const SDL_MouseButtonEvent& Event, FDesktopEventHandler& Handler);
+		void DispatchWheel(const SDL_MouseWheelEvent& Event, FDesktopEventHandler& Handler);
+		void DispatchKey(const SDL_KeyboardEvent& Event, FDesktopEventHandler& Handler);
+		void DispatchText(const ANSICHAR* Text, FDesktopEventHandler& Handler);
+		void DispatchWindow(const SDL_WindowEvent& Event, FDesktopEventHandler& Handler);
+	};
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Components/PanelSlot.h"
+#include "Layout/Margin.h"
+#include "Types/SlateEnums.h"
+#include "SizeBoxSlot.generated.h"
+
+class SBox;
+
+/** Place of the content in a size box. */
+UCLASS(MinimalAPI)
+class USizeBoxSlot : public UPanelSlot
+{
+	GENERATED_BODY()
+
+public:
+	UMG_API USizeBoxSlot(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	FMargin GetPadding() const { return Padding; }
+
+	/** Sets the room around the content, in Slate units. */
+	UFUNCTION(BlueprintCallable, Category = "Layout|Size Box Slot")
+	UMG_API void SetPadding(FMargin InPadding);
+
+	EHorizontalAlignment GetHorizontalAlignment() const { return HorizontalAlignment; }
+
+	UFUNCTION(BlueprintCallable, Category = "Layout|Size Box Slot")
+	UMG_API void SetHorizontalAlignment(EHorizontalAlignment InHorizontalAlignment);
+
+	EVerticalAlignment GetVerticalAlignment() const { return VerticalAlignment; }
+
+	UFUNCTION(BlueprintCallable, Category = "Layout|Size Box Slot")
+	UMG_API void SetVerticalAlignment(EVerticalAlignment InVerticalAlignment);
+
+	UMG_API virtual void SynchronizeProperties() override;
+	UMG_API virtual void ReleaseSlateResources(bool bReleaseChildren) override;
+
+	/** Puts the content into the Slate widget. */
+	UMG_API void BuildSlot(TSharedRef<SBox> InSizeBox);
+
+private:
+	/** Room around the content, in Slate units. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Layout|Size Box Slot", meta = (AllowPrivateAccess = "true"))
+	FMargin Padding;
+
+	/** Where the content lies from left to right in the room that it gets. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Layout|Size Box Slot", meta = (AllowPrivateAccess = "true"))
+	TEnumAsByte<EHorizontalAlignment> HorizontalAlignment = HAlign_Fill;
+
+	/** Where the content lies from top to bottom in the room that it gets. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Layout|Size Box Slot", meta = (AllowPrivateAccess = "true"))
+	TEnumAsByte<EVerticalAlignment> VerticalAlignment = VAlign_Fill;
+
+	TWeakPtr<SBox> SizeBox;
+};

@@ -1,0 +1,176 @@
+#include "Viewer.h"
+
+#include "Blueprint/UserWidget.h"
+#include "HalvexProUISettings.h"
+#include "HalvexUISubsystem.h"
+#include "Host/AutomationScript.h"
+#include "Host/PictureCompare.h"
+#include "Host/DumpWidgetTree.h"
+#include "Misc/App.h"
+#include "Misc/Paths.h"
+#include "Style/HalvexUIStyleConfiguration.h"
+#include "ViewerScreens.h"
+#include "Widgets/SWindow.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+	const TCHAR* const ShippedStyles[] = { TEXT("UIStyle_Hx_Light"), TEXT("UIStyle_Hx_Dark") };
+
+	bool HasDisplay()
+	{
+		return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY");
+	}
+
+	void Print(const FString& Text)
+	{
+		std::printf("%s\n", TCHAR_TO_UTF8(*Text));
+		std::fflush(stdout);
+	}
+}
+
+FViewer::FErrorCounter::FErrorCounter()
+{
+	Host::FLogSinks::Add(*this);
+}
+
+FViewer::FErrorCounter::~FErrorCounter()
+{
+	Host::FLogSinks::Remove(*this);
+}
+
+void FViewer::FErrorCounter::Write(const FName&, ELogVerbosity::Type Verbosity, const FString&, const char*, int32)
+{
+	NumErrors += Verbosity <= ELogVerbosity::Error;
+}
+
+FViewer::FViewer(const FViewerOptions& InOptions)
+	: Options(InOptions)
+{
+	const bool bWorkOnly = Options.bListScreens || Options.bDumpTree || !Options.Screenshot.IsEmpty() || !Options.Script.IsEmpty();
+	if (!Options.bHeadless && !HasDisplay())
+	{
+		bNoDisplay = !bWorkOnly;
+		Options.bHeadless = true;
+	}
+	Options.bHeadless |= Options.bListScreens;
+}
+
+int32 FViewer::Run()
+{
+	FApp::SetProjectName(TEXT("HalvexViewer"));
+	if (!Start())
+	{
+		return 1;
+	}
+	int32 ExitCode = 0;
+	if (Options.bListScreens)
+	{
+		Print(FString::Join(ViewerScreens::List(), TEXT("\n")));
+	}
+	else if (bNoDisplay)
+	{
+		ExitCode = WriteAllScreens();
+	}
+	else
+	{
+		ExitCode = RunScreen();
+	}
+	Loop.Exit();
+	return ExitCode == 0 && Options.bHeadless && Errors.NumErrors > 0 ? 1 : ExitCode;
+}
+
+bool FViewer::Start()
+{
+	Host::FEngineLoopSettings Settings;
+	Settings.bHeadless = Options.bHeadless;
+	Settings.Renderer = Options.Renderer;
+	Settings.WindowSize = Options.Size;
+	Settings.Scale = Options.Scale;
+	Settings.Title = FText::AsCultureInvariant(TEXT("Halvex"));
+	Settings.PluginFolder = TEXT(HALVEX_PLUGIN_DIR);
+	FString Error;
+	if (!Loop.Init(Settings, Error))
+	{
+		std::fprintf(stderr, "HalvexViewer: %s\n", TCHAR_TO_UTF8(*Error));
+		return false;
+	}
+	return Options.Style.IsEmpty() || ChooseStyle(Options.Style);
+}
+
+bool FViewer::ChooseStyle(const FString& StylePath)
+{
+	UHalvexUIStyleConfiguration* Style = LoadObject<UHalvexUIStyleConfiguration>(nullptr, *StylePath);
+	if (!Style)
+	{
+		std::fprintf(stderr, "HalvexViewer: '%s' is no style configuration.\n", TCHAR_TO_UTF8(*StylePath));
+		return false;
+	}
+	GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = Style;
+	UHalvexUISubsystem::Get()->RefreshSettingsReferences();
+	return true;
+}
+
+int32 FViewer::RunScreen()
+{
+	if (!ViewerScreens::Show(Options.Screen))
+	{
+		return 1;
+	}
+	if (Options.Script.IsEmpty() && Options.Screenshot.IsEmpty() && !Options.bDumpTree && !Options.bHeadless)
+	{
+		return Loop.Run();
+	}
+	Loop.RunUntilIdle();
+	if (!Options.Script.IsEmpty() && !Host::FAutomationScript(Loop).RunFile(Options.Script))
+	{
+		return 1;
+	}
+	if (Options.bDumpTree)
+	{
+		Print(Host::DumpWidgetTree(Loop.GetWindow().ToSharedRef()));
+	}
+	return Options.Screenshot.IsEmpty() || WritePicture(Options.Screenshot) ? 0 : 1;
+}
+
+bool FViewer::WritePicture(const FString& File)
+{
+	Host::FPicture Picture;
+	FString Error;
+	if (!Loop.TakePicture(Picture) || !Host::SavePicture(File, Picture, Error))
+	{
+		std::fprintf(stderr, "HalvexViewer: %s cannot be written: %s\n", TCHAR_TO_UTF8(*File), TCHAR_TO_UTF8(*Error));
+		return false;
+	}
+	return true;
+}
+
+int32 FViewer::WriteAllScreens()
+{
+	const FString Folder = FPaths::ConvertRelativePathToFull(TEXT("HalvexPictures"));
+	Print(FString::Printf(TEXT("There is no display: the screens are written as pictures to %s."), *Folder));
+	for (const TCHAR* Style : ShippedStyles)
+	{
+		if (!ChooseStyle(FString::Printf(TEXT("/HalvexPro/Widgets/%s.%s"), Style, Style)))
+		{
+			return 1;
+		}
+		for (const FString& Name : ViewerScreens::List())
+		{
+			UUserWidget* Screen = ViewerScreens::Show(Name);
+			if (!Screen)
+			{
+				return 1;
+			}
+			Loop.RunUntilIdle();
+			if (!WritePicture(FPaths::Combine(Folder, FString::Printf(TEXT("%s-%s.png"), *Name, Style))))
+			{
+				return 1;
+			}
+			Screen->RemoveFromParent();
+		}
+	}
+	return 0;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/EngineLoop.h"
+#include "Host/LogSink.h"
+#include "ViewerOptions.h"
+
+/** The application: shows one screen in a window, or does what was asked for without one. */
+class FViewer
+{
+public:
+	explicit FViewer(const FViewerOptions& InOptions);
+
+	/** Runs to the end. Gives the exit code: 0, or 1 when something could not be started, loaded or written. */
+	int32 Run();
+
+private:
+	/** Counts what goes wrong: a headless run that logged an error has failed. */
+	class FErrorCounter final : public Host::FLogSink
+	{
+	public:
+		FErrorCounter();
+		virtual ~FErrorCounter() override;
+		virtual void Write(const FName& Category, ELogVerbosity::Type Verbosity, const FString& Message, const char* File, int32 Line) override;
+
+		int32 NumErrors = 0;
+	};
+
+	bool Start();
+	bool ChooseStyle(const FString& StylePath);
+	int32 RunScreen();
+	bool WritePicture(const FString& File);
+
+	/** Writes a picture of every screen in every shipped style, for a machine without a display. */
+	int32 WriteAllScreens();
+
+	FViewerOptions Options;
+	FErrorCounter Errors;
+	Host::FEngineLoop Loop;
+	/** True when a window was wanted and there is no display. */
+	bool bNoDisplay = false;
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/RendererChoice.h"
+
+/** What the command line says. */
+struct FViewerOptions
+{
+	/** Name of the screen to show. */
+	FString Screen = TEXT("Gallery");
+	bool bListScreens = false;
+	/** Object path of the style configuration; empty for the one of the project settings. */
+	FString Style;
+	FIntPoint Size = FIntPoint(1280, 800);
+	/** Pixels a Slate unit; 0 for what the system asks for. */
+	float Scale = 0.0f;
+	bool bHeadless = false;
+	Host::ERendererChoice Renderer = Host::ERendererChoice::Auto;
+	/** File to write a picture of the screen to; empty for none. */
+	FString Screenshot;
+	bool bDumpTree = false;
+	/** Lua file that drives the screen; empty for none. */
+	FString Script;
+};
+
+/** What to do after the command line was read. */
+enum class EViewerStart : uint8
+{
+	Run,
+	/** The answer was printed; the program ends well. */
+	Done,
+	/** The command line is wrong, which was said in one line. */
+	Refused,
+};
+
+/** Reads the command line; prints help, version, or what is wrong. */
+EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptions& OutOptions);

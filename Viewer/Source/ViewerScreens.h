@@ -1,0 +1,15 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class UUserWidget;
+
+/** The screens of the content: widget blueprints under /HalvexPro/Screens. */
+namespace ViewerScreens
+{
+	/** Names of the screens, sorted. */
+	TArray<FString> List();
+
+	/** Makes the screen and puts it into the viewport. Null, after a line in the log, when there is no such screen. */
+	UUserWidget* Show(const FString& Name);
+}
