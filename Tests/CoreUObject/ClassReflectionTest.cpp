@@ -19,7 +19,7 @@ namespace
 	{
 		return FindFProperty<FProperty>(UReflectionTestObject::StaticClass(), Name);
 	}
-}
+} // namespace
 
 TEST(ClassReflection, ScriptNameHasNoPrefixAndStandsInTheModulesPackage)
 {
@@ -95,7 +95,9 @@ TEST(ClassReflection, FindingAPropertyOfAnotherKindFindsNothing)
 
 TEST(ClassReflection, FlagsFollowTheSpecifiers)
 {
-	EXPECT_TRUE(Find(TEXT("Hidden"))->HasAllPropertyFlags(CPF_Edit | CPF_BlueprintVisible | CPF_BlueprintReadOnly | CPF_NativeAccessSpecifierPrivate));
+	EXPECT_TRUE(
+		Find(TEXT("Hidden"))
+			->HasAllPropertyFlags(CPF_Edit | CPF_BlueprintVisible | CPF_BlueprintReadOnly | CPF_NativeAccessSpecifierPrivate));
 	EXPECT_TRUE(Find(TEXT("OnNested"))->HasAllPropertyFlags(CPF_BlueprintAssignable));
 	EXPECT_TRUE(Find(TEXT("Configured"))->HasAllPropertyFlags(CPF_Config));
 	EXPECT_FALSE(Find(TEXT("Configured"))->HasAnyPropertyFlags(CPF_Edit));
@@ -148,12 +150,14 @@ TEST(ClassReflection, DefaultObjectIsNamedAfterTheClass)
 {
 	EXPECT_EQ(GetDefault<UReflectionTestObject>()->GetName(), FString(TEXT("Default__ReflectionTestObject")));
 	EXPECT_EQ(GetMutableDefault<UReflectionTestObject>(), UReflectionTestObject::StaticClass()->GetDefaultObject());
-	EXPECT_EQ(UReflectionTestObject::StaticClass()->GetDefaultObject<UReflectionTestObject>(), GetDefault<UReflectionTestObject>());
+	EXPECT_EQ(
+		UReflectionTestObject::StaticClass()->GetDefaultObject<UReflectionTestObject>(), GetDefault<UReflectionTestObject>());
 }
 
 TEST(ClassReflection, PathOfAPropertyNamesItsOwners)
 {
-	EXPECT_EQ(Find(TEXT("Configured"))->GetPathName(), FString(TEXT("/Script/CoreUObjectTestTypes.ReflectionTestObject:Configured")));
+	EXPECT_EQ(
+		Find(TEXT("Configured"))->GetPathName(), FString(TEXT("/Script/CoreUObjectTestTypes.ReflectionTestObject:Configured")));
 	const FArrayProperty* Bases = FindFProperty<FArrayProperty>(FReflectionTestStruct::StaticStruct(), TEXT("Bases"));
 	EXPECT_EQ(Bases->Inner->GetOwnerStruct(), FReflectionTestStruct::StaticStruct());
 }

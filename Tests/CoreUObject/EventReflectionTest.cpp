@@ -35,7 +35,7 @@ namespace
 	{
 		return *FindFProperty<FProperty>(NativeClass->FindFunctionByName(Function), Name)->ContainerPtrToValuePtr<T>(Parms);
 	}
-}
+} // namespace
 
 TEST(NativeEvent, CallsTheImplementationOfTheNativeClass)
 {
@@ -43,7 +43,8 @@ TEST(NativeEvent, CallsTheImplementationOfTheNativeClass)
 	const UReflectionTestObject* Derived = NewObject<UReflectionTestDerived>();
 
 	EXPECT_EQ(Object->Greet(TEXT("you"), FReflectionTestStruct(TEXT("hi")), nullptr), FString(TEXT("hi you?")));
-	EXPECT_EQ(Derived->Greet(TEXT("you"), FReflectionTestStruct(TEXT("hi")), UObject::StaticClass()), FString(TEXT("derived hi you!")));
+	EXPECT_EQ(
+		Derived->Greet(TEXT("you"), FReflectionTestStruct(TEXT("hi")), UObject::StaticClass()), FString(TEXT("derived hi you!")));
 }
 
 TEST(NativeEvent, CalledByNameReachesTheMostDerivedImplementation)
@@ -57,7 +58,8 @@ TEST(NativeEvent, CalledByNameReachesTheMostDerivedImplementation)
 
 	Derived->ProcessEvent(Greet, Memory.GetData());
 
-	EXPECT_EQ(ParmOf<FString>(Derived->GetClass(), TEXT("Greet"), TEXT("ReturnValue"), Memory.GetData()), FString(TEXT("derived start x?")));
+	EXPECT_EQ(ParmOf<FString>(Derived->GetClass(), TEXT("Greet"), TEXT("ReturnValue"), Memory.GetData()),
+		FString(TEXT("derived start x?")));
 	Greet->DestroyStruct(Memory.GetData());
 }
 
@@ -65,25 +67,30 @@ TEST(NativeEvent, ScriptOverrideAnswersInstead)
 {
 	UClass* Native = UReflectionTestObject::StaticClass();
 	UClass* Class = MakeScriptClass(Native);
-	AddOverride(Class, TEXT("Greet"), [Native](UObject*, void* Parms)
-	{
-		ParmOf<FString>(Native, TEXT("Greet"), TEXT("ReturnValue"), Parms) = TEXT("script ") + ParmOf<FString>(Native, TEXT("Greet"), TEXT("Name"), Parms);
-	});
+	AddOverride(Class, TEXT("Greet"),
+		[Native](UObject*, void* Parms)
+		{
+			ParmOf<FString>(Native, TEXT("Greet"), TEXT("ReturnValue"), Parms) =
+				TEXT("script ") + ParmOf<FString>(Native, TEXT("Greet"), TEXT("Name"), Parms);
+		});
 	const UReflectionTestObject* Object = NewObject<UReflectionTestObject>(GetTransientPackage(), Class);
 
 	EXPECT_EQ(Object->Greet(TEXT("you"), FReflectionTestStruct(), nullptr), FString(TEXT("script you")));
-	EXPECT_EQ(NewObject<UReflectionTestObject>()->Greet(TEXT("you"), FReflectionTestStruct(), nullptr), FString(TEXT("start you?"))) << "the native class is not concerned";
+	EXPECT_EQ(
+		NewObject<UReflectionTestObject>()->Greet(TEXT("you"), FReflectionTestStruct(), nullptr), FString(TEXT("start you?")))
+		<< "the native class is not concerned";
 }
 
 TEST(NativeEvent, ScriptOverrideCanCallTheParents)
 {
 	UClass* Native = UReflectionTestObject::StaticClass();
 	UClass* Class = MakeScriptClass(Native);
-	AddOverride(Class, TEXT("Count"), [Native](UObject* Context, void* Parms)
-	{
-		ParmOf<TArray<int32>>(Native, TEXT("Count"), TEXT("Numbers"), Parms).Add(100);
-		Context->ProcessEvent(Native->FindFunctionByName(TEXT("Count")), Parms);
-	});
+	AddOverride(Class, TEXT("Count"),
+		[Native](UObject* Context, void* Parms)
+		{
+			ParmOf<TArray<int32>>(Native, TEXT("Count"), TEXT("Numbers"), Parms).Add(100);
+			Context->ProcessEvent(Native->FindFunctionByName(TEXT("Count")), Parms);
+		});
 	UReflectionTestObject* Object = NewObject<UReflectionTestObject>(GetTransientPackage(), Class);
 	TArray<int32> Numbers;
 
@@ -96,10 +103,12 @@ TEST(NativeEvent, ClassDerivedFromAScriptClassInheritsTheOverride)
 {
 	UClass* Native = UReflectionTestObject::StaticClass();
 	UClass* Class = MakeScriptClass(Native);
-	AddOverride(Class, TEXT("Greet"), [Native](UObject*, void* Parms) { ParmOf<FString>(Native, TEXT("Greet"), TEXT("ReturnValue"), Parms) = TEXT("base"); });
+	AddOverride(Class, TEXT("Greet"),
+		[Native](UObject*, void* Parms) { ParmOf<FString>(Native, TEXT("Greet"), TEXT("ReturnValue"), Parms) = TEXT("base"); });
 	UClass* Child = MakeScriptClass(Class);
 
-	EXPECT_EQ(NewObject<UReflectionTestObject>(GetTransientPackage(), Child)->Greet(TEXT(""), FReflectionTestStruct(), nullptr), FString(TEXT("base")));
+	EXPECT_EQ(NewObject<UReflectionTestObject>(GetTransientPackage(), Child)->Greet(TEXT(""), FReflectionTestStruct(), nullptr),
+		FString(TEXT("base")));
 }
 
 TEST(NativeEvent, FunctionAddedAfterASearchIsFound)
@@ -130,11 +139,13 @@ TEST(ImplementableEvent, RunsTheScriptAndCopiesOutputs)
 {
 	UClass* Native = UReflectionTestObject::StaticClass();
 	UClass* Class = MakeScriptClass(Native);
-	AddOverride(Class, TEXT("Decide"), [Native](UObject*, void* Parms)
-	{
-		ParmOf<int32>(Native, TEXT("Decide"), TEXT("ReturnValue"), Parms) = ParmOf<int32>(Native, TEXT("Decide"), TEXT("Number"), Parms) * 2;
-		ParmOf<bool>(Native, TEXT("Decide"), TEXT("bOutCertain"), Parms) = true;
-	});
+	AddOverride(Class, TEXT("Decide"),
+		[Native](UObject*, void* Parms)
+		{
+			ParmOf<int32>(Native, TEXT("Decide"), TEXT("ReturnValue"), Parms) =
+				ParmOf<int32>(Native, TEXT("Decide"), TEXT("Number"), Parms) * 2;
+			ParmOf<bool>(Native, TEXT("Decide"), TEXT("bOutCertain"), Parms) = true;
+		});
 	UReflectionTestObject* Object = NewObject<UReflectionTestObject>(GetTransientPackage(), Class);
 	bool bCertain = false;
 
@@ -188,10 +199,12 @@ TEST(InterfaceEvent, ScriptImplementerAnswersWithoutANativePart)
 	UClass* Interface = UReflectionTestAnswerer::StaticClass();
 	UClass* Class = MakeScriptClass(UReflectionTestForward::StaticClass());
 	Class->Interfaces.Emplace(Interface, 0, true);
-	AddOverride(Class, TEXT("Guess"), [Interface](UObject*, void* Parms)
-	{
-		ParmOf<int32>(Interface, TEXT("Guess"), TEXT("ReturnValue"), Parms) = ParmOf<int32>(Interface, TEXT("Guess"), TEXT("Limit"), Parms) - 1;
-	});
+	AddOverride(Class, TEXT("Guess"),
+		[Interface](UObject*, void* Parms)
+		{
+			ParmOf<int32>(Interface, TEXT("Guess"), TEXT("ReturnValue"), Parms) =
+				ParmOf<int32>(Interface, TEXT("Guess"), TEXT("Limit"), Parms) - 1;
+		});
 	UObject* Object = NewObject<UObject>(GetTransientPackage(), Class);
 
 	EXPECT_TRUE(Object->Implements<UReflectionTestAnswerer>());

@@ -8,7 +8,10 @@ namespace
 	class FCall
 	{
 	public:
-		FCall(UObject* InObject, const TCHAR* Name) : Object(InObject), Function(InObject->FindFunctionChecked(Name)), Memory(FMemory::Malloc(Function->ParmsSize + 1, 16))
+		FCall(UObject* InObject, const TCHAR* Name)
+			: Object(InObject)
+			, Function(InObject->FindFunctionChecked(Name))
+			, Memory(FMemory::Malloc(Function->ParmsSize + 1, 16))
 		{
 			Function->InitializeStruct(Memory);
 		}
@@ -36,7 +39,7 @@ namespace
 	{
 		return UReflectionTestObject::StaticClass()->FindFunctionByName(Name);
 	}
-}
+} // namespace
 
 TEST(FunctionReflection, DescribesParametersAndResult)
 {
@@ -55,7 +58,8 @@ TEST(FunctionReflection, DescribesParametersAndResult)
 TEST(FunctionReflection, FlagsFollowSpecifiersAndSignature)
 {
 	EXPECT_TRUE(Find(TEXT("Add"))->HasAllFunctionFlags(FUNC_Native | FUNC_BlueprintCallable | FUNC_Const | FUNC_Public));
-	EXPECT_TRUE(Find(TEXT("Add"))->HasAllFunctionFlags(FUNC_BlueprintPure)) << "a const function with a result is drawn without pins";
+	EXPECT_TRUE(Find(TEXT("Add"))->HasAllFunctionFlags(FUNC_BlueprintPure))
+		<< "a const function with a result is drawn without pins";
 	EXPECT_FALSE(Find(TEXT("GetNames"))->HasAnyFunctionFlags(FUNC_BlueprintPure)) << "unless the specifier says otherwise";
 	EXPECT_TRUE(Find(TEXT("MakeVector"))->HasAllFunctionFlags(FUNC_Static | FUNC_BlueprintPure));
 	EXPECT_TRUE(Find(TEXT("Greet"))->HasAllFunctionFlags(FUNC_Event | FUNC_BlueprintEvent | FUNC_Native));
@@ -68,7 +72,10 @@ TEST(FunctionReflection, FlagsFollowSpecifiersAndSignature)
 TEST(FunctionReflection, ParametersSayHowTheyArePassed)
 {
 	const UFunction* Describe = Find(TEXT("Describe"));
-	const auto Flags = [Describe](const TCHAR* Name) { return FindFProperty<FProperty>(Describe, Name)->PropertyFlags & CPF_ParmFlags; };
+	const auto Flags = [Describe](const TCHAR* Name)
+	{
+		return FindFProperty<FProperty>(Describe, Name)->PropertyFlags & CPF_ParmFlags;
+	};
 
 	EXPECT_EQ(Flags(TEXT("Prefix")), static_cast<uint64>(CPF_Parm | CPF_ConstParm | CPF_OutParm | CPF_ReferenceParm));
 	EXPECT_EQ(Flags(TEXT("OutText")), static_cast<uint64>(CPF_Parm | CPF_OutParm));
@@ -177,11 +184,15 @@ TEST(FunctionReflection, InheritedFunctionIsFoundUnlessExcluded)
 
 TEST(FunctionReflection, DelegateSignatureIsAFunctionOfItsClassOrModule)
 {
-	const FMulticastDelegateProperty* Nested = FindFProperty<FMulticastDelegateProperty>(UReflectionTestObject::StaticClass(), TEXT("OnNested"));
-	const FDelegateProperty* Predicate = FindFProperty<FDelegateProperty>(UReflectionTestObject::StaticClass(), TEXT("Predicate"));
+	const FMulticastDelegateProperty* Nested =
+		FindFProperty<FMulticastDelegateProperty>(UReflectionTestObject::StaticClass(), TEXT("OnNested"));
+	const FDelegateProperty* Predicate =
+		FindFProperty<FDelegateProperty>(UReflectionTestObject::StaticClass(), TEXT("Predicate"));
 
-	EXPECT_EQ(Nested->SignatureFunction->GetPathName(), FString(TEXT("/Script/CoreUObjectTestTypes.ReflectionTestObject:NestedEvent__DelegateSignature")));
-	EXPECT_EQ(Predicate->SignatureFunction->GetPathName(), FString(TEXT("/Script/CoreUObjectTestTypes.ReflectionTestPredicate__DelegateSignature")));
+	EXPECT_EQ(Nested->SignatureFunction->GetPathName(),
+		FString(TEXT("/Script/CoreUObjectTestTypes.ReflectionTestObject:NestedEvent__DelegateSignature")));
+	EXPECT_EQ(Predicate->SignatureFunction->GetPathName(),
+		FString(TEXT("/Script/CoreUObjectTestTypes.ReflectionTestPredicate__DelegateSignature")));
 	EXPECT_TRUE(Nested->SignatureFunction->HasAllFunctionFlags(FUNC_Delegate | FUNC_MulticastDelegate));
 	EXPECT_TRUE(Find(TEXT("IsLong"))->IsSignatureCompatibleWith(Predicate->SignatureFunction));
 	EXPECT_FALSE(Find(TEXT("Add"))->IsSignatureCompatibleWith(Predicate->SignatureFunction));

@@ -8,7 +8,7 @@ namespace
 	{
 		return FindFProperty<FProperty>(FReflectionTestBase::StaticStruct(), TEXT("Count"));
 	}
-}
+} // namespace
 
 TEST(MetaData, KeysAreFoundWithoutRegardToCase)
 {
@@ -29,8 +29,10 @@ TEST(MetaData, CommentAboveIsTheToolTip)
 {
 	EXPECT_EQ(FindCount()->GetToolTipText().ToString(), FString(TEXT("Counts\nthe things.")));
 	EXPECT_EQ(FReflectionTestBase::StaticStruct()->GetToolTipText().ToString(), FString(TEXT("A line comment\nof two lines.")));
-	EXPECT_EQ(UReflectionTestObject::StaticClass()->GetToolTipText().ToString(), FString(TEXT("Shows what a class can be made of.")));
-	EXPECT_EQ(UReflectionTestObject::StaticClass()->FindFunctionByName(TEXT("Add"))->GetToolTipText().ToString(), FString(TEXT("Adds numbers, @return the sum.")));
+	EXPECT_EQ(
+		UReflectionTestObject::StaticClass()->GetToolTipText().ToString(), FString(TEXT("Shows what a class can be made of.")));
+	EXPECT_EQ(UReflectionTestObject::StaticClass()->FindFunctionByName(TEXT("Add"))->GetToolTipText().ToString(),
+		FString(TEXT("Adds numbers, @return the sum.")));
 }
 
 TEST(MetaData, DisplayNameIsWrittenOutOrMadeOfTheName)
@@ -41,7 +43,8 @@ TEST(MetaData, DisplayNameIsWrittenOutOrMadeOfTheName)
 	EXPECT_EQ(FindFProperty<FProperty>(Struct, TEXT("bFirst"))->GetDisplayNameText().ToString(), FString(TEXT("First")));
 	EXPECT_EQ(Struct->GetDisplayNameText().ToString(), FString(TEXT("Reflection Test Struct")));
 	EXPECT_EQ(UReflectionTestObject::StaticClass()->GetDisplayNameText().ToString(), FString(TEXT("Test Object")));
-	EXPECT_EQ(FindFProperty<FProperty>(Struct, TEXT("Text"))->GetToolTipText().ToString(), FString(TEXT("Text"))) << "without a comment, the display name";
+	EXPECT_EQ(FindFProperty<FProperty>(Struct, TEXT("Text"))->GetToolTipText().ToString(), FString(TEXT("Text")))
+		<< "without a comment, the display name";
 }
 
 TEST(MetaData, FlagsAreTrueWhenTheyStandAlone)

@@ -16,7 +16,7 @@ namespace
 		Class->Link();
 		return Class;
 	}
-}
+} // namespace
 
 TEST(RuntimeClass, PropertiesLieBehindTheNativePart)
 {
@@ -47,8 +47,10 @@ TEST(RuntimeClass, VariablesKeepTheirObjectsAlive)
 	UClass* Class = MakeClassWithVariables();
 	UReflectionTestForward* Object = NewObject<UReflectionTestForward>(GetTransientPackage(), Class);
 	Object->AddToRoot();
-	FindFProperty<FObjectProperty>(Class, TEXT("Friend"))->SetObjectPropertyValue_InContainer(Object, NewObject<UReflectionTestForward>());
-	const TWeakObjectPtr<UObject> Friend = FindFProperty<FObjectProperty>(Class, TEXT("Friend"))->GetObjectPropertyValue_InContainer(Object);
+	FindFProperty<FObjectProperty>(Class, TEXT("Friend"))
+		->SetObjectPropertyValue_InContainer(Object, NewObject<UReflectionTestForward>());
+	const TWeakObjectPtr<UObject> Friend =
+		FindFProperty<FObjectProperty>(Class, TEXT("Friend"))->GetObjectPropertyValue_InContainer(Object);
 
 	CollectGarbage(RF_NoFlags);
 	EXPECT_TRUE(Friend.IsValid());

@@ -22,14 +22,15 @@ namespace
 	bool Import(const TCHAR* Text, FReflectionTestStruct& Value, FString* OutError = nullptr)
 	{
 		FStringOutputDevice Error;
-		const TCHAR* Behind = FReflectionTestStruct::StaticStruct()->ImportText(Text, &Value, nullptr, PPF_None, &Error, TEXT("Test"));
+		const TCHAR* Behind =
+			FReflectionTestStruct::StaticStruct()->ImportText(Text, &Value, nullptr, PPF_None, &Error, TEXT("Test"));
 		if (OutError)
 		{
 			*OutError = Error;
 		}
 		return Behind && *Behind == 0;
 	}
-}
+} // namespace
 
 TEST(StructReflection, DescribesSizeNameAndBase)
 {
@@ -150,7 +151,8 @@ TEST(StructReflection, StructureThatHoldsItselfKnowsItsReferences)
 
 	EXPECT_TRUE(FindFProperty<FProperty>(Tree, TEXT("Children"))->ContainsObjectReference());
 	ASSERT_NE(Tree->RefLink, nullptr);
-	EXPECT_EQ(CastFieldChecked<FArrayProperty>(FindFProperty<FProperty>(Tree, TEXT("Children")))->Inner->ElementSize, static_cast<int32>(sizeof(FReflectionTestTree)));
+	EXPECT_EQ(CastFieldChecked<FArrayProperty>(FindFProperty<FProperty>(Tree, TEXT("Children")))->Inner->ElementSize,
+		static_cast<int32>(sizeof(FReflectionTestTree)));
 }
 
 TEST(StructReflection, TextNamesMembersAndReadsBack)
@@ -166,7 +168,8 @@ TEST(StructReflection, TextNamesMembersAndReadsBack)
 	FReflectionTestStruct Copy;
 	ASSERT_TRUE(Import(*Export(Value), Copy)) << TCHAR_TO_UTF8(*Export(Value));
 
-	EXPECT_TRUE(FReflectionTestStruct::StaticStruct()->CompareScriptStruct(&Value, &Copy, PPF_None)) << TCHAR_TO_UTF8(*Export(Copy));
+	EXPECT_TRUE(FReflectionTestStruct::StaticStruct()->CompareScriptStruct(&Value, &Copy, PPF_None))
+		<< TCHAR_TO_UTF8(*Export(Copy));
 	EXPECT_EQ(Copy.Path, Value.Path);
 }
 
@@ -207,8 +210,8 @@ TEST(StructReflection, ReadingTextReportsUnknownMembersAndGoesOn)
 
 TEST(StructReflection, TextOfAnotherFormIsRefused)
 {
-	for (const TCHAR* Text : {TEXT(""), TEXT("Count=4"), TEXT("(Count=4"), TEXT("(Count)"), TEXT("(Count=4;Text=\"a\")"), TEXT("(=4)"), TEXT("(Text=\"open)"), TEXT("(Grid[9]=1"),
-			 TEXT("(Nothing=(")})
+	for (const TCHAR* Text : {TEXT(""), TEXT("Count=4"), TEXT("(Count=4"), TEXT("(Count)"), TEXT("(Count=4;Text=\"a\")"),
+			 TEXT("(=4)"), TEXT("(Text=\"open)"), TEXT("(Grid[9]=1"), TEXT("(Nothing=(")})
 	{
 		FReflectionTestStruct Value;
 		FString Error;

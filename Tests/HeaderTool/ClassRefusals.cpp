@@ -61,7 +61,8 @@ class UTwoObjectBases : public UTwoObjectBasesA, public UTwoObjectBasesB //!
 	GENERATED_BODY()
 };
 )",
-			"UTwoObjectBases derives from several reflected classes: one is allowed, further bases are I classes of interfaces or plain classes"},
+			"UTwoObjectBases derives from several reflected classes: one is allowed, further bases are I classes of interfaces "
+			"or plain classes"},
 		{"ContradictingSpecifiers", R"(
 UCLASS(Blueprintable, NotBlueprintable)
 class UContradictingSpecifiers : public UObject //!
@@ -125,7 +126,8 @@ class IInterfaceCallable
 	virtual void Call() = 0;
 };
 )",
-			"'Call' must be a BlueprintNativeEvent or BlueprintImplementableEvent, or the interface UINTERFACE(meta=(CannotImplementInterfaceInBlueprint))"},
+			"'Call' must be a BlueprintNativeEvent or BlueprintImplementableEvent, or the interface "
+			"UINTERFACE(meta=(CannotImplementInterfaceInBlueprint))"},
 	};
 }
 
@@ -170,7 +172,8 @@ struct FLostCopy //!
 	virtual ~FLostCopy() = default;
 };
 )",
-			"FLostCopy declares a destructor or a move, so it must declare its copy constructor and copy assignment too ('= default' will do)"},
+			"FLostCopy declares a destructor or a move, so it must declare its copy constructor and copy assignment too ('= "
+			"default' will do)"},
 		{"WideBlueprintEnum", R"(
 UENUM(BlueprintType) //!
 enum class EWideBlueprintEnum : int32

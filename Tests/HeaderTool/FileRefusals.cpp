@@ -12,7 +12,8 @@ class UMissingGeneratedInclude : public UObject //!
 	GENERATED_BODY()
 };
 )",
-			"the header declares reflected types: write #include \"MissingGeneratedInclude.generated.h\" as its last include", true},
+			"the header declares reflected types: write #include \"MissingGeneratedInclude.generated.h\" as its last include",
+			true},
 		{"GeneratedIncludeNotLast", R"(#pragma once
 #include "GeneratedIncludeNotLast.generated.h" //!
 #include "UObject/Object.h"

@@ -49,7 +49,7 @@ namespace
 			EXPECT_EQ(Run.GetMessagesOf(Case.Name), std::vector<std::string>{Expected}) << Case.Name;
 		}
 	}
-}
+} // namespace
 
 TEST(Refusal, OfMistakesInTheFile)
 {
@@ -105,7 +105,8 @@ TEST(RefusalRun, WritesNothingWhenAHeaderIsRefused)
 TEST(RefusalRun, CompilerErrorsAreReportedInTheSameForm)
 {
 	FToolRun Run;
-	Run.AddBody("Broken", "UCLASS()\nclass UBroken : public UObject\n{\n\tGENERATED_BODY()\n\n\tUPROPERTY()\n\tFUnknownType Member;\n};\n");
+	Run.AddBody("Broken",
+		"UCLASS()\nclass UBroken : public UObject\n{\n\tGENERATED_BODY()\n\n\tUPROPERTY()\n\tFUnknownType Member;\n};\n");
 
 	EXPECT_EQ(Run.Run(), 1);
 	const std::vector<std::string> Messages = Run.GetMessagesOf("Broken");
@@ -125,10 +126,12 @@ TEST(RefusalRun, AMissingHeaderFileIsNamed)
 TEST(RefusalRun, DelegatesHaveAtMostNineParameters)
 {
 	FToolRun Run;
-	Run.AddBody("Ten", "DECLARE_DYNAMIC_DELEGATE_TenParams(FTen, int32, A, int32, B, int32, C, int32, D, int32, E, int32, F, int32, G, int32, H, int32, I, int32, J);\n");
+	Run.AddBody("Ten", "DECLARE_DYNAMIC_DELEGATE_TenParams(FTen, int32, A, int32, B, int32, C, int32, D, int32, E, int32, F, "
+					   "int32, G, int32, H, int32, I, int32, J);\n");
 
 	EXPECT_EQ(Run.Run(), 1);
-	EXPECT_THAT(Run.GetMessagesOf("Ten"), testing::Contains("10: error: a dynamic delegate has at most nine parameters: pass a USTRUCT"));
+	EXPECT_THAT(
+		Run.GetMessagesOf("Ten"), testing::Contains("10: error: a dynamic delegate has at most nine parameters: pass a USTRUCT"));
 }
 
 TEST(RefusalRun, TypesWithACommaDoNotFitIntoADelegate)
@@ -138,15 +141,19 @@ TEST(RefusalRun, TypesWithACommaDoNotFitIntoADelegate)
 
 	EXPECT_EQ(Run.Run(), 1);
 	EXPECT_THAT(Run.GetMessagesOf("Comma"),
-		testing::Contains("10: error: type and name of each parameter are arguments of their own: write (FName, Type1, Name1, ...); a type with a comma needs a USTRUCT around it"));
+		testing::Contains("10: error: type and name of each parameter are arguments of their own: write (FName, Type1, Name1, "
+						  "...); a type with a comma needs a USTRUCT around it"));
 }
 
 TEST(RefusalRun, ScriptNamesClashAcrossModulesToo)
 {
 	FToolRun Run;
-	std::ofstream(Run.GetHeaderPath("Other")) << "#pragma once\n#include \"UObject/Object.h\"\n#include \"Other.generated.h\"\nUSTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n};\n";
-	Run.AddHeader("Mine", "#pragma once\n#include \"Other.h\"\n#include \"Mine.generated.h\"\nUCLASS()\nclass UThing : public UObject\n{\n\tGENERATED_BODY()\n};\n");
+	std::ofstream(Run.GetHeaderPath("Other")) << "#pragma once\n#include \"UObject/Object.h\"\n#include "
+												 "\"Other.generated.h\"\nUSTRUCT()\nstruct FThing\n{\n\tGENERATED_BODY()\n};\n";
+	Run.AddHeader("Mine", "#pragma once\n#include \"Other.h\"\n#include \"Mine.generated.h\"\nUCLASS()\nclass UThing : public "
+						  "UObject\n{\n\tGENERATED_BODY()\n};\n");
 
 	EXPECT_EQ(Run.Run(), 1);
-	EXPECT_EQ(Run.GetMessagesOf("Mine"), std::vector<std::string>{"5: error: UThing and FThing (Other.h:5) have one script name: rename one of them"});
+	EXPECT_EQ(Run.GetMessagesOf("Mine"),
+		std::vector<std::string>{"5: error: UThing and FThing (Other.h:5) have one script name: rename one of them"});
 }

@@ -35,16 +35,15 @@ void FToolRun::AddHeader(const std::string& Name, const std::string& Text)
 
 void FToolRun::AddBody(const std::string& Name, const std::string& Body)
 {
-	AddHeader(Name,
-		"#pragma once\n"
-		"\n"
-		"#include \"CoreMinimal.h\"\n"
-		"#include \"Templates/SubclassOf.h\"\n"
-		"#include \"UObject/DynamicDelegates.h\"\n"
-		"#include \"UObject/Interface.h\"\n"
-		"#include \"UObject/SoftObjectPtr.h\"\n"
-		"#include \""
-			+ Name + ".generated.h\"\n\n" + Body);
+	AddHeader(Name, "#pragma once\n"
+					"\n"
+					"#include \"CoreMinimal.h\"\n"
+					"#include \"Templates/SubclassOf.h\"\n"
+					"#include \"UObject/DynamicDelegates.h\"\n"
+					"#include \"UObject/Interface.h\"\n"
+					"#include \"UObject/SoftObjectPtr.h\"\n"
+					"#include \"" +
+						Name + ".generated.h\"\n\n" + Body);
 }
 
 int FToolRun::Run()
@@ -52,14 +51,16 @@ int FToolRun::Run()
 	{
 		std::ofstream Arguments(Dir + "/Arguments");
 		Arguments << "--module\nToolTest\n--output\n" << Dir << "/Out\n--include\n" << Dir << "/Public\n";
-		Arguments << "--include\n" HALVEX_SOURCE_DIR "/Host/Source/Core/Public\n--include\n" HALVEX_SOURCE_DIR "/Host/Source/CoreUObject/Public\n";
+		Arguments << "--include\n" HALVEX_SOURCE_DIR "/Host/Source/Core/Public\n--include\n" HALVEX_SOURCE_DIR
+					 "/Host/Source/CoreUObject/Public\n";
 		Arguments << "--define\nCORE_API=\n--define\nCOREUOBJECT_API=\n--define\nTOOLTEST_API=\n";
 		for (const std::string& Header : Headers)
 		{
 			Arguments << "--header\n" << GetHeaderPath(Header) << "\n";
 		}
 	}
-	const std::string Command = "\"" HEADER_TOOL_PATH "\" --arguments \"" + Dir + "/Arguments\" --depfile \"" + GetOutputPath("ToolTest.d") + "\" 2>&1";
+	const std::string Command =
+		"\"" HEADER_TOOL_PATH "\" --arguments \"" + Dir + "/Arguments\" --depfile \"" + GetOutputPath("ToolTest.d") + "\" 2>&1";
 	Messages.clear();
 	FILE* Pipe = popen(Command.c_str(), "r");
 	if (!Pipe)

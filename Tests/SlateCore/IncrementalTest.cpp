@@ -1,4 +1,7 @@
+#include <algorithm>
 #include <random>
+#include <string>
+#include <vector>
 
 #include "TestWidgets.h"
 
@@ -182,11 +185,40 @@ namespace
 		}
 	}
 
+	/** Gives a slot another padding, or puts it on top of its siblings. */
+	void EditSlot(FNode& Parent, int32 Index, FRandomTree& Random)
+	{
+		FNode& Child = *Parent.Children[Index];
+		Child.Padding = static_cast<float>(Random.Below(6));
+		switch (Parent.Kind)
+		{
+		case EKind::Row:
+			static_cast<SHorizontalBox&>(*Parent.Live).GetSlot(Index).SetPadding(FMargin(Child.Padding));
+			break;
+		case EKind::Column:
+			static_cast<SVerticalBox&>(*Parent.Live).GetSlot(Index).SetPadding(FMargin(Child.Padding));
+			break;
+		case EKind::Overlay:
+		{
+			const TSharedRef<SWidget> Widget = Child.Live.ToSharedRef();
+			static_cast<SOverlay&>(*Parent.Live).RemoveSlot(Widget);
+			AddChild(Parent, *Parent.Live, Child, Widget, Index);
+			TUniquePtr<FNode> Moved = MoveTemp(Parent.Children[Index]);
+			Parent.Children.RemoveAt(Index);
+			Parent.Children.Add(MoveTemp(Moved));
+			break;
+		}
+		default:
+			Child.Padding = 0.0f;
+			break;
+		}
+	}
+
 	/** Changes one thing of the tree, in the data and in the widgets. */
 	void Edit(FNode& Tree, FRandomTree& Random)
 	{
 		FNode& Node = Random.AnyNode(Tree);
-		switch (Random.Below(11))
+		switch (Random.Below(12))
 		{
 		case 0:
 			Node.Size = FVector2D(4.0 + Random.Below(30), 4.0 + Random.Below(30));
@@ -201,7 +233,7 @@ namespace
 			break;
 		}
 		case 3:
-			Node.Clipping = Random.Below(2) == 0 ? EWidgetClipping::Inherit : EWidgetClipping::ClipToBounds;
+			Node.Clipping = Random.Below(2) == 0 ? EWidgetClipping::Inherit : static_cast<EWidgetClipping>(Random.Below(5));
 			break;
 		case 4:
 		{
@@ -226,6 +258,12 @@ namespace
 				const int32 Index = Random.Below(Node.Children.Num());
 				RemoveChild(Node, Index);
 				Node.Children.RemoveAt(Index);
+			}
+			break;
+		case 10:
+			if (!Node.Children.IsEmpty())
+			{
+				EditSlot(Node, Random.Below(Node.Children.Num()), Random);
 			}
 			break;
 		default:
@@ -274,6 +312,29 @@ namespace
 		}
 	}
 
+	/** Where two elements of both pictures overlap, and the other one is on top now, there must be damage. */
+	void ExpectDamageWhereOrderChanged(const FTestTree& Tree, const std::vector<std::string>& Before, const TArray<Host::FDrawElement>& Elements, const std::vector<std::string>& After)
+	{
+		std::vector<std::ptrdiff_t> PlaceBefore;
+		for (const std::string& Line : After)
+		{
+			const bool bOnce = std::count(Before.begin(), Before.end(), Line) == 1 && std::count(After.begin(), After.end(), Line) == 1;
+			PlaceBefore.push_back(bOnce ? std::find(Before.begin(), Before.end(), Line) - Before.begin() : -1);
+		}
+		for (int32 Upper = 0; Upper < Elements.Num(); ++Upper)
+		{
+			for (int32 Lower = 0; Lower < Upper; ++Lower)
+			{
+				const Host::FPixelRect Overlap = Elements[Upper].Bounds.Intersect(Elements[Lower].Bounds);
+				if (PlaceBefore[Upper] >= 0 && PlaceBefore[Lower] > PlaceBefore[Upper] && !Overlap.IsEmpty())
+				{
+					const bool bCovered = Tree.Root.GetDamage().ContainsByPredicate([&Overlap](const Host::FPixelRect& Area) { return Area.Contains(Overlap); });
+					EXPECT_TRUE(bCovered) << "now on top: " << After[Upper] << " of " << After[Lower];
+				}
+			}
+		}
+	}
+
 	void ExpectSameHits(const FTestTree& A, const FTestTree& B, FRandomTree& Random)
 	{
 		for (int32 Time = 0; Time < 8; ++Time)
@@ -318,6 +379,7 @@ TEST_P(IncrementalTest, RandomEditsGiveThePictureOfATreeMadeAnew)
 		ASSERT_EQ(Actual, Describe(Fresh.GetElements())) << "after step " << Step;
 		ExpectDamageCovers(Live, Live.GetElements(), Describe(Before));
 		ExpectDamageCovers(Live, Before, Actual);
+		ExpectDamageWhereOrderChanged(Live, Describe(Before), Live.GetElements(), Actual);
 		ExpectSameHits(Live, Fresh, Random);
 		EXPECT_FALSE(Live.Run()) << "the picture is at rest";
 	}

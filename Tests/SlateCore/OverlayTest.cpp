@@ -50,8 +50,22 @@ TEST(OverlayTest, ChangedZOrderIsDrawnAnew)
 	FTestTree Tree(Overlay);
 	Tree.Run();
 	Slot->SetZOrder(3);
-	Tree.Run();
+	EXPECT_TRUE(Tree.Run());
 	ExpectColors(Tree, { Green, Red });
+	EXPECT_EQ(Tree.GetDamageBounds(), MakePixelRect(0, 0, 400, 300)) << "neither has changed, but another one lies on top";
+}
+
+TEST(OverlayTest, AddedAndRemovedSlotsDoNotDamageTheOthers)
+{
+	const TSharedRef<SOverlay> Overlay = SNew(SOverlay);
+	Overlay->AddSlot(1)[MakeLeaf(Red)];
+	Overlay->AddSlot(3)[MakeLeaf(Blue)];
+	FTestTree Tree(Overlay);
+	Tree.Run();
+	Overlay->AddSlot(2).HAlign(HAlign_Left).VAlign(VAlign_Top)[MakeLeaf(Green)];
+	Tree.Run();
+	ExpectColors(Tree, { Red, Green, Blue });
+	EXPECT_EQ(Tree.GetDamageBounds(), MakePixelRect(0, 0, 10, 10));
 }
 
 TEST(OverlayTest, WantsTheGreatestOfItsChildren)

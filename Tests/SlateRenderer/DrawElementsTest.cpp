@@ -242,6 +242,52 @@ TEST_F(DrawElements, TurnedGeometryKeepsItsTransform)
 	EXPECT_LE(Box.Bounds.Bottom, 31);
 }
 
+TEST_F(DrawElements, HugeBoxesCoverWhatIsVisibleOfThem)
+{
+	MakeBox(FSlateRoundedBoxBrush(FLinearColor::Red, 8.0f), MakeGeometry(-1.0e9f, -5.0e7f, 2.0e9f, 1.0e8f), FLinearColor::Red);
+
+	const FPicture Picture = ElementScene::Draw(*ElementScene::MakeCpu(), FIntPoint(64, 48), Elements);
+
+	for (const FColor& Pixel : Picture.Pixels)
+	{
+		ASSERT_EQ(Pixel, FColor(255, 0, 0, 255));
+	}
+}
+
+TEST_F(DrawElements, ExtremeGeometryDoesNoHarm)
+{
+	const float Values[] = { 0.0f, 1.0f, -1.0f, 0.5f, 1.0e-30f, 1.0e-6f, 3.0e4f, -3.0e5f, 1.0e9f, -1.0e20f, 1.0e30f, 3.4e38f };
+	constexpr uint32 NumValues = UE_ARRAY_COUNT(Values);
+	const FSlateRoundedBoxBrush Rounded(FLinearColor::White, 8.0f, FLinearColor::Red, 2.0f);
+	const FSlateColorBrush Plain(White);
+	FSlateFontInfo Info;
+	const TSharedRef<const FTexture> Texture = ElementScene::MakeTestTexture(8, 8);
+	const TSharedPtr<FSlateRenderer> Cpu = ElementScene::MakeCpu();
+	uint32 State = 1;
+	const auto Pick = [&State, &Values]
+	{
+		State = State * 1664525u + 1013904223u;
+		return Values[(State >> 16) % NumValues];
+	};
+	for (int32 Round = 0; Round < 400; ++Round)
+	{
+		const FMatrix2x2f Matrix(Pick(), Pick(), Pick(), Pick());
+		const FVector2f Translation(Pick(), Pick());
+		const FPaintGeometry Geometry(FSlateLayoutTransform(1.0f, Translation), FSlateRenderTransform(Matrix, Translation), FVector2f(Pick(), Pick()), true);
+		Elements.Reset();
+		List.PushClip(FSlateClippingZone(Geometry));
+		FSlateDrawElement::MakeBox(List, 0, MakeGeometry(0.0f, 0.0f, 20.0f, 20.0f), &Rounded);
+		List.PopClip();
+		FSlateDrawElement::MakeBox(List, 0, Geometry, &Rounded);
+		FSlateDrawElement::MakeBox(List, 0, Geometry, &Plain);
+		FSlateDrawElement::MakeTexture(List, 0, Geometry, Texture);
+		FSlateDrawElement::MakeText(List, 0, Geometry, FString(TEXT("Text")), Info);
+		FSlateDrawElement::MakeLines(List, 0, Geometry, { FVector2f(Pick(), Pick()), FVector2f(Pick(), Pick()), FVector2f(Pick(), Pick()) });
+		const FPicture Picture = ElementScene::Draw(*Cpu, FIntPoint(24, 16), Elements);
+		ASSERT_EQ(Picture.Pixels.Num(), 24 * 16);
+	}
+}
+
 TEST_F(DrawElements, WidgetsNest)
 {
 	const FSlateColorBrush Brush(White);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "ElementScene.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Host/RendererChoice.h"
 #include "Widgets/SCompoundWidget.h"

@@ -44,7 +44,7 @@ end
 
 function ShowPage(self)
 	self.PageHost:ClearChildren()
-	self.PageHost:AddChild(CreateWidget(self, "/HalvexPro/Screens/" .. self.Page .. "." .. self.Page))
+	self.PageHost:AddChild(CreateWidget(self, "/HalvexPro/Gallery/Page" .. self.Page .. ".Page" .. self.Page))
 	self.Scroll:ScrollToStart()
 	RestyleFrame(self)
 end

@@ -18,4 +18,4 @@ namespace HeaderTool
 		}
 		return {};
 	}
-}
+} // namespace HeaderTool

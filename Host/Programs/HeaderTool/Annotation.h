@@ -7,4 +7,4 @@ namespace HeaderTool
 {
 	/** Macro arguments of the annotation on an enumerator, parameter or function; empty when it has none. */
 	FSpecifiers ReadAnnotation(const FSourceFile& File, CXCursor Cursor, std::string_view Macro, FDiagnostics& Diagnostics);
-}
+} // namespace HeaderTool

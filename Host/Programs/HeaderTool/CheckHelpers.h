@@ -25,7 +25,8 @@ namespace HeaderTool
 
 	void CheckSpecifiers(const FCheckContext& Context, EMacro Macro, const FSpecifiers& Specifiers);
 	/** Refuses conditions other than the editor's around a reflected declaration; Wanted is the one that fits. */
-	void CheckConditionals(const FCheckContext& Context, const FSourceFile& File, const FLocation& Location, std::string_view Wanted, std::string_view Other);
+	void CheckConditionals(const FCheckContext& Context, const FSourceFile& File, const FLocation& Location,
+		std::string_view Wanted, std::string_view Other);
 	/** Says why graphs cannot use the type; empty when they can. */
 	std::string FindBlueprintComplaint(const FCheckContext& Context, const FType& Type);
 
@@ -36,4 +37,4 @@ namespace HeaderTool
 	void CheckParameterType(const FCheckContext& Context, const FParameter& Parameter);
 	void CheckEnum(const FCheckContext& Context, const FHeader& Header, const FEnum& Enum);
 	void CheckDelegate(const FCheckContext& Context, const FDelegate& Delegate);
-}
+} // namespace HeaderTool

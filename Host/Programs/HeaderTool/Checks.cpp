@@ -12,7 +12,8 @@ namespace HeaderTool
 		std::vector<const FKnownClass*> Result;
 		const FBase* Base = Class.GetReflectedBase();
 		std::string Name = Base ? Base->Name : std::string();
-		for (auto Found = Module.KnownClasses.find(Name); Found != Module.KnownClasses.end() && Result.size() < 100; Found = Module.KnownClasses.find(Found->second.Base))
+		for (auto Found = Module.KnownClasses.find(Name); Found != Module.KnownClasses.end() && Result.size() < 100;
+			 Found = Module.KnownClasses.find(Found->second.Base))
 		{
 			Result.push_back(&Found->second);
 		}
@@ -73,7 +74,8 @@ namespace HeaderTool
 		}
 	}
 
-	void CheckConditionals(const FCheckContext& Context, const FSourceFile& File, const FLocation& Location, std::string_view Wanted, std::string_view Other)
+	void CheckConditionals(const FCheckContext& Context, const FSourceFile& File, const FLocation& Location,
+		std::string_view Wanted, std::string_view Other)
 	{
 		for (const FConditional& Conditional : File.GetConditionals(Location.Line))
 		{
@@ -87,11 +89,13 @@ namespace HeaderTool
 			}
 			else if (Conditional.Expression == Other)
 			{
-				Context.Error(Location, "'#if " + std::string(Other) + "' does not fit here: write '#if " + std::string(Wanted) + "'");
+				Context.Error(
+					Location, "'#if " + std::string(Other) + "' does not fit here: write '#if " + std::string(Wanted) + "'");
 			}
 			else
 			{
-				Context.Error(Location, "only '#if " + std::string(Wanted) + "' may surround this macro, not '#if " + Conditional.Expression + "'");
+				Context.Error(Location,
+					"only '#if " + std::string(Wanted) + "' may surround this macro, not '#if " + Conditional.Expression + "'");
 			}
 		}
 	}
@@ -114,9 +118,13 @@ namespace HeaderTool
 			[[fallthrough]];
 		case ETypeKind::PlainEnum:
 		case ETypeKind::EnumAsByte:
-			return Context.NonBlueprintTypes.contains(Type.Target) ? "graphs cannot use " + Type.Target + ": write UENUM(BlueprintType)" : "";
+			return Context.NonBlueprintTypes.contains(Type.Target)
+					   ? "graphs cannot use " + Type.Target + ": write UENUM(BlueprintType)"
+					   : "";
 		case ETypeKind::Struct:
-			return Context.NonBlueprintTypes.contains(Type.Target) ? "graphs cannot use " + Type.Target + ": write USTRUCT(BlueprintType)" : "";
+			return Context.NonBlueprintTypes.contains(Type.Target)
+					   ? "graphs cannot use " + Type.Target + ": write USTRUCT(BlueprintType)"
+					   : "";
 		default:
 			break;
 		}
@@ -146,7 +154,8 @@ namespace HeaderTool
 					// base of another header counts as able.
 					const FBase* Base = Class.GetReflectedBase();
 					const bool bInherited = Base && !Context.NonBlueprintTypes.contains(Base->Name);
-					(Class.Specifiers.Has("BlueprintType") || bInherited ? Context.BlueprintTypes : Context.NonBlueprintTypes).insert(Class.Name);
+					(Class.Specifiers.Has("BlueprintType") || bInherited ? Context.BlueprintTypes : Context.NonBlueprintTypes)
+						.insert(Class.Name);
 				}
 			}
 		}
@@ -161,8 +170,9 @@ namespace HeaderTool
 			const auto [Found, bAdded] = Taken.emplace(GetScriptName(CppName), std::pair(CppName, Location));
 			if (!bAdded)
 			{
-				Context.Error(Location, CppName + " and " + Found->second.first + " (" + GetBaseName(Found->second.second.File) + ".h:"
-					+ std::to_string(Found->second.second.Line) + ") have one script name: rename one of them");
+				Context.Error(Location, CppName + " and " + Found->second.first + " (" + GetBaseName(Found->second.second.File) +
+											".h:" + std::to_string(Found->second.second.Line) +
+											") have one script name: rename one of them");
 			}
 		};
 		std::map<std::string, std::string> Files;
@@ -213,4 +223,4 @@ namespace HeaderTool
 			}
 		}
 	}
-}
+} // namespace HeaderTool

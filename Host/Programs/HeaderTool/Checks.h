@@ -6,4 +6,4 @@ namespace HeaderTool
 {
 	/** Refuses what the engine refuses, and what reflection here could not carry out. */
 	void CheckModule(const FModule& Module, FDiagnostics& Diagnostics);
-}
+} // namespace HeaderTool

@@ -78,4 +78,4 @@ namespace HeaderTool
 			&Result);
 		return Result;
 	}
-}
+} // namespace HeaderTool

@@ -36,4 +36,4 @@ namespace HeaderTool
 
 	/** Direct children in order. */
 	std::vector<CXCursor> GetChildren(CXCursor Cursor);
-}
+} // namespace HeaderTool

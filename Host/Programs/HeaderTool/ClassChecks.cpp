@@ -7,12 +7,15 @@ namespace HeaderTool
 {
 	static bool HasPrefix(const std::string& Name, char Prefix)
 	{
-		return Name.size() > 1 && Name[0] == Prefix && (std::isupper(static_cast<unsigned char>(Name[1])) || std::isdigit(static_cast<unsigned char>(Name[1])));
+		return Name.size() > 1 && Name[0] == Prefix &&
+			   (std::isupper(static_cast<unsigned char>(Name[1])) || std::isdigit(static_cast<unsigned char>(Name[1])));
 	}
 
 	static EMacro GetMacro(const FClass& Class)
 	{
-		return Class.Kind == EClassKind::Struct ? EMacro::Struct : Class.Kind == EClassKind::Class ? EMacro::Class : EMacro::Interface;
+		return Class.Kind == EClassKind::Struct	 ? EMacro::Struct
+			   : Class.Kind == EClassKind::Class ? EMacro::Class
+												 : EMacro::Interface;
 	}
 
 	static void CheckBody(const FCheckContext& Context, const FClass& Class)
@@ -23,21 +26,25 @@ namespace HeaderTool
 		}
 		else if (!Class.bBodyFirst)
 		{
-			Context.Error({Class.Location.File, Class.BodyLine}, "GENERATED_BODY() must be the first thing inside of " + Class.Name);
+			Context.Error(
+				{Class.Location.File, Class.BodyLine}, "GENERATED_BODY() must be the first thing inside of " + Class.Name);
 		}
 	}
 
 	static void CheckBases(const FCheckContext& Context, const FClass& Class)
 	{
-		const auto NumObjects = std::count_if(Class.Bases.begin(), Class.Bases.end(), [](const FBase& Base) { return Base.bReflected && !Base.bInterface; });
+		const auto NumObjects = std::count_if(
+			Class.Bases.begin(), Class.Bases.end(), [](const FBase& Base) { return Base.bReflected && !Base.bInterface; });
 		if (NumObjects == 0)
 		{
 			const bool bInterface = Class.Kind == EClassKind::InterfaceClass;
-			Context.Error(Class.Location, Class.Name + " must derive from " + (bInterface ? "UInterface" : "UObject or a class derived from it"));
+			Context.Error(Class.Location,
+				Class.Name + " must derive from " + (bInterface ? "UInterface" : "UObject or a class derived from it"));
 		}
 		else if (NumObjects > 1)
 		{
-			Context.Error(Class.Location, Class.Name + " derives from several reflected classes: one is allowed, further bases are I classes of interfaces or plain classes");
+			Context.Error(Class.Location, Class.Name + " derives from several reflected classes: one is allowed, further bases "
+													   "are I classes of interfaces or plain classes");
 		}
 		const FBase* Super = Class.GetReflectedBase();
 		if (Super && !Class.Bases.empty() && Super != &Class.Bases[0])
@@ -53,7 +60,8 @@ namespace HeaderTool
 		const char Wanted = bActor ? 'A' : 'U';
 		if (!HasPrefix(Class.Name, Wanted))
 		{
-			Context.Error(Class.Location, "the class " + Class.Name + " must be named with the prefix " + Wanted + (bActor ? ", as it is an actor" : ""));
+			Context.Error(Class.Location,
+				"the class " + Class.Name + " must be named with the prefix " + Wanted + (bActor ? ", as it is an actor" : ""));
 		}
 	}
 
@@ -65,18 +73,22 @@ namespace HeaderTool
 		}
 		for (const FFunction& Function : Struct.Functions)
 		{
-			Context.Error(Function.Location, "a USTRUCT() cannot have a UFUNCTION(): take the macro off, or write a function library");
+			Context.Error(
+				Function.Location, "a USTRUCT() cannot have a UFUNCTION(): take the macro off, or write a function library");
 		}
 		if (Struct.bHasConstructor && !Struct.bHasDefaultConstructor)
 		{
 			Context.Error(Struct.Location, Struct.Name + " has no default constructor: write '" + Struct.Name + "() = default;'");
 		}
-		const bool bCopyLost = (Struct.bHasDestructor || Struct.bHasMove) && !(Struct.bHasCopyConstructor && Struct.bHasCopyAssignment);
+		const bool bCopyLost =
+			(Struct.bHasDestructor || Struct.bHasMove) && !(Struct.bHasCopyConstructor && Struct.bHasCopyAssignment);
 		if (bCopyLost)
 		{
-			Context.Error(Struct.Location, Struct.Name + " declares a destructor or a move, so it must declare its copy constructor and copy assignment too ('= default' will do)");
+			Context.Error(Struct.Location, Struct.Name + " declares a destructor or a move, so it must declare its copy "
+														 "constructor and copy assignment too ('= default' will do)");
 		}
-		const auto NumReflected = std::count_if(Struct.Bases.begin(), Struct.Bases.end(), [](const FBase& Base) { return Base.bReflected; });
+		const auto NumReflected =
+			std::count_if(Struct.Bases.begin(), Struct.Bases.end(), [](const FBase& Base) { return Base.bReflected; });
 		if (NumReflected > 1)
 		{
 			Context.Error(Struct.Location, Struct.Name + " derives from several reflected structures: one is allowed");
@@ -85,7 +97,8 @@ namespace HeaderTool
 
 	static const FClass* FindClass(const FHeader& Header, const std::string& Name)
 	{
-		const auto Found = std::find_if(Header.Classes.begin(), Header.Classes.end(), [&](const FClass& Class) { return Class.Name == Name; });
+		const auto Found =
+			std::find_if(Header.Classes.begin(), Header.Classes.end(), [&](const FClass& Class) { return Class.Name == Name; });
 		return Found == Header.Classes.end() ? nullptr : &*Found;
 	}
 
@@ -100,7 +113,8 @@ namespace HeaderTool
 		const FClass* Body = FindClass(Header, BodyName);
 		if (!Body || Body->Kind != EClassKind::InterfaceBody)
 		{
-			Context.Error(Class.Location, "the interface " + Class.Name + " has no class " + BodyName + " with GENERATED_BODY() behind it");
+			Context.Error(
+				Class.Location, "the interface " + Class.Name + " has no class " + BodyName + " with GENERATED_BODY() behind it");
 		}
 		if (!Class.Functions.empty() || !Class.Properties.empty())
 		{
@@ -114,20 +128,24 @@ namespace HeaderTool
 		const FClass* ObjectClass = FindClass(Header, ObjectName);
 		if (!ObjectClass || ObjectClass->Kind != EClassKind::InterfaceClass)
 		{
-			Context.Error(Class.Location, "the interface " + Class.Name + " has no class " + ObjectName + " with UINTERFACE() ahead of it");
+			Context.Error(
+				Class.Location, "the interface " + Class.Name + " has no class " + ObjectName + " with UINTERFACE() ahead of it");
 			return;
 		}
 		for (const FProperty& Property : Class.Properties)
 		{
-			Context.Error(Property.Location, "an interface has no UPROPERTY(): declare a function that yields '" + Property.Name + "'");
+			Context.Error(
+				Property.Location, "an interface has no UPROPERTY(): declare a function that yields '" + Property.Name + "'");
 		}
 		for (const FFunction& Function : Class.Functions)
 		{
-			const bool bCallableOnly = !Function.IsEvent() && (Function.Specifiers.Has("BlueprintCallable") || Function.Specifiers.Has("BlueprintPure"));
+			const bool bCallableOnly =
+				!Function.IsEvent() && (Function.Specifiers.Has("BlueprintCallable") || Function.Specifiers.Has("BlueprintPure"));
 			if (bCallableOnly && !ObjectClass->Specifiers.HasMeta("CannotImplementInterfaceInBlueprint"))
 			{
-				Context.Error(Function.Location, "'" + Function.Name
-					+ "' must be a BlueprintNativeEvent or BlueprintImplementableEvent, or the interface UINTERFACE(meta=(CannotImplementInterfaceInBlueprint))");
+				Context.Error(Function.Location, "'" + Function.Name +
+													 "' must be a BlueprintNativeEvent or BlueprintImplementableEvent, or the "
+													 "interface UINTERFACE(meta=(CannotImplementInterfaceInBlueprint))");
 			}
 			if (Function.bStatic)
 			{
@@ -138,13 +156,14 @@ namespace HeaderTool
 
 	static void CheckContradictions(const FCheckContext& Context, const FClass& Class)
 	{
-		static constexpr std::pair<const char*, const char*> Pairs[] = {
-			{"Blueprintable", "NotBlueprintable"}, {"BlueprintType", "NotBlueprintType"}, {"EditInlineNew", "NotEditInlineNew"}, {"Transient", "NonTransient"}};
+		static constexpr std::pair<const char*, const char*> Pairs[] = {{"Blueprintable", "NotBlueprintable"},
+			{"BlueprintType", "NotBlueprintType"}, {"EditInlineNew", "NotEditInlineNew"}, {"Transient", "NonTransient"}};
 		for (const auto& [First, Second] : Pairs)
 		{
 			if (Class.Specifiers.Has(First) && Class.Specifiers.Has(Second))
 			{
-				Context.Error(Class.Location, std::string("'") + First + "' and '" + Second + "' contradict each other: take one away");
+				Context.Error(
+					Class.Location, std::string("'") + First + "' and '" + Second + "' contradict each other: take one away");
 			}
 		}
 		const FSpecifier* Config = Class.Specifiers.Find("Config");
@@ -194,4 +213,4 @@ namespace HeaderTool
 			CheckFunctions(Context, Header, Class);
 		}
 	}
-}
+} // namespace HeaderTool

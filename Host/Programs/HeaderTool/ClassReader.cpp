@@ -29,7 +29,9 @@ namespace HeaderTool
 		{
 			return EClassKind::InterfaceBody;
 		}
-		return Mark->Kind == EMark::Interface ? EClassKind::InterfaceClass : Mark->Kind == EMark::Struct ? EClassKind::Struct : EClassKind::Class;
+		return Mark->Kind == EMark::Interface ? EClassKind::InterfaceClass
+			   : Mark->Kind == EMark::Struct  ? EClassKind::Struct
+											  : EClassKind::Class;
 	}
 
 	static bool IsEditorGuard(const std::string& Expression)
@@ -40,7 +42,8 @@ namespace HeaderTool
 	static bool IsEditorOnly(const FSourceFile& File, unsigned Line)
 	{
 		const std::vector<FConditional> Conditionals = File.GetConditionals(Line);
-		return std::any_of(Conditionals.begin(), Conditionals.end(), [](const FConditional& Item) { return IsEditorGuard(Item.Expression); });
+		return std::any_of(
+			Conditionals.begin(), Conditionals.end(), [](const FConditional& Item) { return IsEditorGuard(Item.Expression); });
 	}
 
 	void FModuleReader::ReadClass(FHeader& Header, const FMark* Mark, CXCursor Cursor)
@@ -66,14 +69,17 @@ namespace HeaderTool
 			if (!Class.Properties.empty() || !Class.Functions.empty())
 			{
 				const FLocation& Where = Class.Properties.empty() ? Class.Functions[0].Location : Class.Properties[0].Location;
-				Diagnostics.Error(Where, "the class " + Class.Name + " has reflected members but is not reflected: write UCLASS() or USTRUCT() ahead of it");
+				Diagnostics.Error(
+					Where, "the class " + Class.Name +
+							   " has reflected members but is not reflected: write UCLASS() or USTRUCT() ahead of it");
 			}
 			FindMisplaced(Cursor, "the class " + Class.Name, static_cast<size_t>(&Header - Module.Headers.data()));
 			return;
 		}
 		if (!Mark && !IsInterfaceBodyName(Class.Name))
 		{
-			Diagnostics.Error(Class.Location, "GENERATED_BODY() in " + Class.Name + ", which has no UCLASS() or USTRUCT() ahead of it");
+			Diagnostics.Error(
+				Class.Location, "GENERATED_BODY() in " + Class.Name + ", which has no UCLASS() or USTRUCT() ahead of it");
 			return;
 		}
 		LearnBases(Cursor);
@@ -158,7 +164,8 @@ namespace HeaderTool
 			}
 		}
 		// What the macro's own expansion declares does not count as the reader's.
-		const bool bMethod = Kind == CXCursor_CXXMethod && GetSource(GetPlace(Child).File)->GetIdentifierAt(GetPlace(Child).Offset) != "GENERATED_BODY";
+		const bool bMethod = Kind == CXCursor_CXXMethod &&
+							 GetSource(GetPlace(Child).File)->GetIdentifierAt(GetPlace(Child).Offset) != "GENERATED_BODY";
 		if (bMethod)
 		{
 			Class.MethodNames.push_back(GetSpelling(Child));
@@ -201,10 +208,12 @@ namespace HeaderTool
 		}
 		if (bMember)
 		{
-			const bool bSecond = Kind == CXCursor_FieldDecl && !Class.Properties.empty() && LastMemberStart == GetStartOffset(Child);
+			const bool bSecond =
+				Kind == CXCursor_FieldDecl && !Class.Properties.empty() && LastMemberStart == GetStartOffset(Child);
 			if (bSecond)
 			{
-				Diagnostics.Error(Class.Properties.back().Location, "one member a UPROPERTY(): declare '" + GetSpelling(Child) + "' by itself");
+				Diagnostics.Error(
+					Class.Properties.back().Location, "one member a UPROPERTY(): declare '" + GetSpelling(Child) + "' by itself");
 			}
 			Class.PlainMembers.push_back(GetSpelling(Child));
 		}
@@ -224,7 +233,8 @@ namespace HeaderTool
 			return;
 		}
 		Class.bHasConstructor = true;
-		Class.bHasInitializerConstructor = Class.bHasInitializerConstructor || First.find("FObjectInitializer") != std::string::npos;
+		Class.bHasInitializerConstructor =
+			Class.bHasInitializerConstructor || First.find("FObjectInitializer") != std::string::npos;
 		Class.bHasDefaultConstructor = Class.bHasDefaultConstructor || clang_CXXConstructor_isDefaultConstructor(Child) != 0;
 	}
 
@@ -268,8 +278,10 @@ namespace HeaderTool
 		{
 			if (clang_getCursorKind(Child) == CXCursor_CXXBaseSpecifier)
 			{
-				const CXCursor Base = clang_getCursorDefinition(clang_getTypeDeclaration(clang_getCanonicalType(clang_getCursorType(Child))));
-				if (!clang_Cursor_isNull(Base) && !Module.KnownClasses.contains(GetSpelling(Base)) && Types.IsReflectedClass(Base))
+				const CXCursor Base =
+					clang_getCursorDefinition(clang_getTypeDeclaration(clang_getCanonicalType(clang_getCursorType(Child))));
+				if (!clang_Cursor_isNull(Base) && !Module.KnownClasses.contains(GetSpelling(Base)) &&
+					Types.IsReflectedClass(Base))
 				{
 					LearnBases(Base);
 					Learn(Base);
@@ -293,7 +305,8 @@ namespace HeaderTool
 			}
 			if (Kind == CXCursor_CXXBaseSpecifier)
 			{
-				const std::string Base = GetSpelling(clang_getTypeDeclaration(clang_getCanonicalType(clang_getCursorType(Child))));
+				const std::string Base =
+					GetSpelling(clang_getTypeDeclaration(clang_getCanonicalType(clang_getCursorType(Child))));
 				Known.Base = Known.Base.empty() && Module.KnownClasses.contains(Base) ? Base : Known.Base;
 			}
 			else if (Kind == CXCursor_FieldDecl)
@@ -321,4 +334,4 @@ namespace HeaderTool
 		Known.bInitializerConstructor = !Constructors.bHasConstructor || Constructors.bHasInitializerConstructor;
 		Module.KnownClasses[GetSpelling(Cursor)] = std::move(Known);
 	}
-}
+} // namespace HeaderTool

@@ -10,10 +10,11 @@ namespace HeaderTool
 		const std::string Member = Class.Name + "::" + Property.Name;
 		if (Property.bBitField)
 		{
-			return "{" + MakeLiteral(Property.Name) + ", &Host::MakeProperty<bool>, 0, " + GetPropertyFlags(Property) + ", " + Metadata + ", &SetBit_" + Property.Name + "},";
+			return "{" + MakeLiteral(Property.Name) + ", &Host::MakeProperty<bool>, 0, " + GetPropertyFlags(Property) + ", " +
+				   Metadata + ", &SetBit_" + Property.Name + "},";
 		}
-		return "{" + MakeLiteral(Property.Name) + ", &Host::MakeProperty<decltype(" + Member + ")>, offsetof(" + Class.Name + ", " + Property.Name + "), "
-			+ GetPropertyFlags(Property) + ", " + Metadata + "},";
+		return "{" + MakeLiteral(Property.Name) + ", &Host::MakeProperty<decltype(" + Member + ")>, offsetof(" + Class.Name +
+			   ", " + Property.Name + "), " + GetPropertyFlags(Property) + ", " + Metadata + "},";
 	}
 
 	void WriteProperties(FCode& Code, const FClass& Class)
@@ -23,7 +24,8 @@ namespace HeaderTool
 		{
 			if (Property.bBitField)
 			{
-				Code.Line("static void SetBit_" + Property.Name + "(void* Container) { static_cast<" + Class.Name + "*>(Container)->" + Property.Name + " = true; }");
+				Code.Line("static void SetBit_" + Property.Name + "(void* Container) { static_cast<" + Class.Name +
+						  "*>(Container)->" + Property.Name + " = true; }");
 			}
 			const std::string Metadata = WriteMetadata(Code, "Meta_" + Property.Name, MakePropertyMetadata(Property));
 			Rows.push_back(MakePropertyRow(Class, Property, Metadata));
@@ -66,7 +68,8 @@ namespace HeaderTool
 		{
 			if (Base.bInterface)
 			{
-				Rows.push_back("{&StaticClass<" + Base.Name + ">, &Host::GetInterfaceOffset<" + Class.Name + ", " + Base.Name + ">},");
+				Rows.push_back(
+					"{&StaticClass<" + Base.Name + ">, &Host::GetInterfaceOffset<" + Class.Name + ", " + Base.Name + ">},");
 			}
 		}
 		if (Rows.empty())
@@ -94,7 +97,8 @@ namespace HeaderTool
 		return Within && Within->Value ? "&StaticClass<" + *Within->Value + ">" : "nullptr";
 	}
 
-	static void WriteClassInfo(FCode& Code, const FModule& Module, const FClass& Class, const std::string& Interfaces, const std::string& Functions, const std::string& Metadata)
+	static void WriteClassInfo(FCode& Code, const FModule& Module, const FClass& Class, const std::string& Interfaces,
+		const std::string& Functions, const std::string& Metadata)
 	{
 		const FBase* Super = Class.GetReflectedBase();
 		Code.Open("static constexpr Host::FClassInfo Info =");
@@ -129,7 +133,8 @@ namespace HeaderTool
 			const bool bSuperTakesInitializer = Known == Module.KnownClasses.end() || Known->second.bInitializerConstructor;
 			Code.Line(Class.Name + "::" + Class.Name + "() : " + Class.Name + "(FObjectInitializer::Get()) {}");
 			Code.Line();
-			Code.Line(Class.Name + "::" + Class.Name + "(const FObjectInitializer&" + (bSuperTakesInitializer ? " ObjectInitializer) : Super(ObjectInitializer) {}" : ") : Super() {}"));
+			Code.Line(Class.Name + "::" + Class.Name + "(const FObjectInitializer&" +
+					  (bSuperTakesInitializer ? " ObjectInitializer) : Super(ObjectInitializer) {}" : ") : Super() {}"));
 			Code.Line();
 		}
 		if (!Class.bHasDestructor)
@@ -214,9 +219,10 @@ namespace HeaderTool
 		const FBase* Super = Struct.GetReflectedBase();
 		Code.Open("static UScriptStruct* Get()");
 		Code.Line("static UScriptStruct* Struct = nullptr;");
-		Code.Line("static const Host::FStructInfo Info = {" + MakeLiteral(GetScriptName(Struct.Name)) + ", " + MakeLiteral("/Script/" + Module.Name) + ", "
-			+ (Super ? "&" + Super->Name + "::StaticStruct" : "nullptr") + ", Host::GetStructOps<" + Struct.Name + ">(), " + (Struct.Properties.empty() ? "{}" : "Properties") + ", " + Metadata
-			+ "};");
+		Code.Line("static const Host::FStructInfo Info = {" + MakeLiteral(GetScriptName(Struct.Name)) + ", " +
+				  MakeLiteral("/Script/" + Module.Name) + ", " + (Super ? "&" + Super->Name + "::StaticStruct" : "nullptr") +
+				  ", Host::GetStructOps<" + Struct.Name + ">(), " + (Struct.Properties.empty() ? "{}" : "Properties") + ", " +
+				  Metadata + "};");
 		Code.Line("return Struct ? Struct : Host::ConstructStruct(Struct, Info);");
 		Code.Close();
 		Code.Close(";");
@@ -259,8 +265,10 @@ namespace HeaderTool
 		}
 		const std::string Metadata = WriteMetadata(Code, "Meta_Enum", MakeEnumMetadata(Enum));
 		const bool bFlags = Enum.Specifiers.HasMeta("Bitflags") || Enum.Specifiers.Has("Flags");
-		Code.Line("static constexpr Host::FEnumInfo Info = {" + MakeLiteral(GetScriptName(Enum.Name)) + ", " + MakeLiteral("/Script/" + Module.Name) + ", " + MakeLiteral(Enum.CppType)
-			+ ", UEnum::ECppForm::" + Forms[static_cast<int>(Enum.Form)] + ", " + (bFlags ? "true" : "false") + ", " + (Rows.empty() ? "{}" : "Enumerators") + ", " + Metadata + "};");
+		Code.Line("static constexpr Host::FEnumInfo Info = {" + MakeLiteral(GetScriptName(Enum.Name)) + ", " +
+				  MakeLiteral("/Script/" + Module.Name) + ", " + MakeLiteral(Enum.CppType) +
+				  ", UEnum::ECppForm::" + Forms[static_cast<int>(Enum.Form)] + ", " + (bFlags ? "true" : "false") + ", " +
+				  (Rows.empty() ? "{}" : "Enumerators") + ", " + Metadata + "};");
 		Code.Close(";");
 		Code.Close();
 		Code.Line();
@@ -271,4 +279,4 @@ namespace HeaderTool
 		Code.Close();
 		Code.Line();
 	}
-}
+} // namespace HeaderTool

@@ -8,7 +8,11 @@ namespace HeaderTool
 	static size_t GetSequenceLength(std::string_view Text, size_t Index)
 	{
 		const unsigned char Lead = static_cast<unsigned char>(Text[Index]);
-		const size_t Length = Lead < 0x80 ? 1 : Lead >= 0xC2 && Lead < 0xE0 ? 2 : Lead >= 0xE0 && Lead < 0xF0 ? 3 : Lead >= 0xF0 && Lead < 0xF5 ? 4 : 0;
+		const size_t Length = Lead < 0x80					? 1
+							  : Lead >= 0xC2 && Lead < 0xE0 ? 2
+							  : Lead >= 0xE0 && Lead < 0xF0 ? 3
+							  : Lead >= 0xF0 && Lead < 0xF5 ? 4
+															: 0;
 		if (Length == 0 || Index + Length > Text.size())
 		{
 			return 0;
@@ -100,4 +104,4 @@ namespace HeaderTool
 	{
 		return Parameter.Type.bReference && !Parameter.Type.bConst;
 	}
-}
+} // namespace HeaderTool

@@ -23,4 +23,4 @@ namespace HeaderTool
 
 	/** True for a parameter that is copied out after the call. */
 	bool IsOutput(const FParameter& Parameter);
-}
+} // namespace HeaderTool

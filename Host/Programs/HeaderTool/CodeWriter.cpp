@@ -44,4 +44,4 @@ namespace HeaderTool
 		Code.Close(";");
 		return Name;
 	}
-}
+} // namespace HeaderTool

@@ -45,4 +45,4 @@ namespace HeaderTool
 
 	/** Property table of a class or structure. */
 	void WriteProperties(FCode& Code, const FClass& Class);
-}
+} // namespace HeaderTool

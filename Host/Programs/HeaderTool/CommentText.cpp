@@ -64,4 +64,4 @@ namespace HeaderTool
 		}
 		return Result;
 	}
-}
+} // namespace HeaderTool

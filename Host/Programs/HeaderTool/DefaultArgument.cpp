@@ -11,7 +11,8 @@ namespace HeaderTool
 	static std::string Trim(std::string_view Text)
 	{
 		const size_t First = Text.find_first_not_of(" \t\r\n");
-		return First == std::string_view::npos ? std::string() : std::string(Text.substr(First, Text.find_last_not_of(" \t\r\n") - First + 1));
+		return First == std::string_view::npos ? std::string()
+											   : std::string(Text.substr(First, Text.find_last_not_of(" \t\r\n") - First + 1));
 	}
 
 	static std::optional<std::string> ReadNumber(std::string Text)
@@ -47,7 +48,8 @@ namespace HeaderTool
 			bUnwrapped = false;
 			for (const std::string_view Wrapper : Wrappers)
 			{
-				if (Text.starts_with(Wrapper) && Text.size() > Wrapper.size() + 1 && Text[Wrapper.size()] == '(' && Text.back() == ')')
+				if (Text.starts_with(Wrapper) && Text.size() > Wrapper.size() + 1 && Text[Wrapper.size()] == '(' &&
+					Text.back() == ')')
 				{
 					Text = Trim(std::string_view(Text).substr(Wrapper.size() + 1, Text.size() - Wrapper.size() - 2));
 					bUnwrapped = true;
@@ -116,14 +118,16 @@ namespace HeaderTool
 
 	static std::optional<std::string> ReadMathConstructor(const std::string& Text, const FMathType& Type)
 	{
-		const bool bForm = Text.starts_with(Type.Name) && Text.size() > Type.Name.size() + 1
-			&& ((Text[Type.Name.size()] == '(' && Text.back() == ')') || (Text[Type.Name.size()] == '{' && Text.back() == '}'));
+		const bool bForm =
+			Text.starts_with(Type.Name) && Text.size() > Type.Name.size() + 1 &&
+			((Text[Type.Name.size()] == '(' && Text.back() == ')') || (Text[Type.Name.size()] == '{' && Text.back() == '}'));
 		if (!bForm)
 		{
 			return std::nullopt;
 		}
 		std::vector<std::string> Values;
-		const std::string_view Arguments = std::string_view(Text).substr(Type.Name.size() + 1, Text.size() - Type.Name.size() - 2);
+		const std::string_view Arguments =
+			std::string_view(Text).substr(Type.Name.size() + 1, Text.size() - Type.Name.size() - 2);
 		size_t Start = 0;
 		while (Start <= Arguments.size() && !Trim(Arguments).empty())
 		{
@@ -179,8 +183,9 @@ namespace HeaderTool
 
 	static bool IsQualifiedName(const std::string& Text)
 	{
-		return !Text.empty() && !std::isdigit(static_cast<unsigned char>(Text[0]))
-			&& std::all_of(Text.begin(), Text.end(), [](unsigned char Character) { return std::isalnum(Character) || Character == '_' || Character == ':'; });
+		return !Text.empty() && !std::isdigit(static_cast<unsigned char>(Text[0])) &&
+			   std::all_of(Text.begin(), Text.end(),
+				   [](unsigned char Character) { return std::isalnum(Character) || Character == '_' || Character == ':'; });
 	}
 
 	static std::optional<std::string> Convert(const FParameter& Parameter, const std::string& Text)
@@ -192,13 +197,16 @@ namespace HeaderTool
 		case ETypeKind::PlainEnum:
 		case ETypeKind::EnumAsByte:
 		case ETypeKind::EnumClass:
-			return IsQualifiedName(Text) ? std::optional(Text.substr(Text.rfind(':') == std::string::npos ? 0 : Text.rfind(':') + 1)) : std::nullopt;
+			return IsQualifiedName(Text)
+					   ? std::optional(Text.substr(Text.rfind(':') == std::string::npos ? 0 : Text.rfind(':') + 1))
+					   : std::nullopt;
 		case ETypeKind::String:
 			return Text == "FString()" || Text == "{}" ? std::optional(std::string()) : ReadText(Text);
 		case ETypeKind::Name:
 			return Text == "NAME_None" || Text == "FName()" || Text == "{}" ? std::optional(std::string("None")) : ReadText(Text);
 		case ETypeKind::Text:
-			return Text == "FText()" || Text == "FText::GetEmpty()" || Text == "{}" ? std::optional(std::string()) : ReadText(Text);
+			return Text == "FText()" || Text == "FText::GetEmpty()" || Text == "{}" ? std::optional(std::string())
+																					: ReadText(Text);
 		case ETypeKind::Struct:
 			return ReadMath(Text);
 		case ETypeKind::Object:
@@ -227,8 +235,9 @@ namespace HeaderTool
 			OutText = *Text;
 			return true;
 		}
-		OutComplaint = "the default argument '" + Parameter.Default + "' of '" + Parameter.Name
-			+ "' cannot be reflected: write a literal, an enumerator, nullptr, or a constructor of a maths type with numbers";
+		OutComplaint =
+			"the default argument '" + Parameter.Default + "' of '" + Parameter.Name +
+			"' cannot be reflected: write a literal, an enumerator, nullptr, or a constructor of a maths type with numbers";
 		return false;
 	}
-}
+} // namespace HeaderTool

@@ -10,4 +10,4 @@ namespace HeaderTool
 	 * maths types.
 	 */
 	bool ConvertDefaultArgument(const FParameter& Parameter, std::string& OutText, std::string& OutComplaint);
-}
+} // namespace HeaderTool

@@ -15,7 +15,8 @@ namespace HeaderTool
 		return Word.starts_with(DelegatePrefix) ? std::string(Word) : std::string();
 	}
 
-	bool FModuleReader::ReadDelegate(std::vector<FDelegate>& Out, const std::optional<FMark>& Mark, CXCursor Cursor, const std::string& OuterClass)
+	bool FModuleReader::ReadDelegate(
+		std::vector<FDelegate>& Out, const std::optional<FMark>& Mark, CXCursor Cursor, const std::string& OuterClass)
 	{
 		const FPlace Place = GetPlace(Cursor);
 		const std::shared_ptr<FSourceFile> File = GetSource(Place.File);
@@ -23,7 +24,8 @@ namespace HeaderTool
 		std::string_view Text;
 		size_t Offset = 0;
 		size_t End = 0;
-		const bool bClass = clang_getCursorKind(Cursor) == CXCursor_ClassDecl || clang_getCursorKind(Cursor) == CXCursor_StructDecl;
+		const bool bClass =
+			clang_getCursorKind(Cursor) == CXCursor_ClassDecl || clang_getCursorKind(Cursor) == CXCursor_StructDecl;
 		if (!bClass || !clang_isCursorDefinition(Cursor) || !File->GetMacroArguments(Place.Offset, Text, Offset, End))
 		{
 			return false;
@@ -77,7 +79,9 @@ namespace HeaderTool
 			}
 			const CXType Base = clang_getCanonicalType(clang_getCursorType(Child));
 			const int Num = clang_Type_getNumTemplateArguments(Base);
-			const CXType Last = Num > 0 ? clang_getCanonicalType(clang_Type_getTemplateArgumentAsType(Base, static_cast<unsigned>(Num - 1))) : CXType{};
+			const CXType Last =
+				Num > 0 ? clang_getCanonicalType(clang_Type_getTemplateArgumentAsType(Base, static_cast<unsigned>(Num - 1)))
+						: CXType{};
 			if (Num > 0 && Last.kind == CXType_FunctionProto)
 			{
 				if (bHasResult)
@@ -110,4 +114,4 @@ namespace HeaderTool
 			Parameter.Type = Types.Read(Found[Index++]);
 		}
 	}
-}
+} // namespace HeaderTool

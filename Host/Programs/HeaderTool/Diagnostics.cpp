@@ -12,11 +12,15 @@ namespace HeaderTool
 
 	std::string FDiagnostics::Format() const
 	{
-		const auto Key = [](const FMessage& Message) { return std::tie(Message.Location.File, Message.Location.Line, Message.Text); };
+		const auto Key = [](const FMessage& Message)
+		{
+			return std::tie(Message.Location.File, Message.Location.Line, Message.Text);
+		};
 		std::vector<FMessage> Sorted = Messages;
 		std::stable_sort(Sorted.begin(), Sorted.end(), [&](const FMessage& A, const FMessage& B) { return Key(A) < Key(B); });
 		Sorted.erase(
-			std::unique(Sorted.begin(), Sorted.end(), [&](const FMessage& A, const FMessage& B) { return Key(A) == Key(B); }), Sorted.end());
+			std::unique(Sorted.begin(), Sorted.end(), [&](const FMessage& A, const FMessage& B) { return Key(A) == Key(B); }),
+			Sorted.end());
 		std::string Result;
 		for (const FMessage& Message : Sorted)
 		{
@@ -24,4 +28,4 @@ namespace HeaderTool
 		}
 		return Result;
 	}
-}
+} // namespace HeaderTool

@@ -34,4 +34,4 @@ namespace HeaderTool
 
 		std::vector<FMessage> Messages;
 	};
-}
+} // namespace HeaderTool

@@ -13,10 +13,12 @@ namespace HeaderTool
 		for (const FEnumerator& Enumerator : Enum.Enumerators)
 		{
 			CheckSpecifiers(Context, EMacro::Enumerator, Enumerator.Specifiers);
-			if (Enum.Form != EEnumForm::EnumClass && Enum.Specifiers.Has("BlueprintType") && (Enumerator.Value < 0 || Enumerator.Value > 255))
+			if (Enum.Form != EEnumForm::EnumClass && Enum.Specifiers.Has("BlueprintType") &&
+				(Enumerator.Value < 0 || Enumerator.Value > 255))
 			{
-				Context.Error(Enumerator.Location, "'" + Enumerator.Name + "' does not fit into the one byte that graphs keep an enumeration in");
+				Context.Error(Enumerator.Location,
+					"'" + Enumerator.Name + "' does not fit into the one byte that graphs keep an enumeration in");
 			}
 		}
 	}
-}
+} // namespace HeaderTool

@@ -88,4 +88,4 @@ namespace HeaderTool
 		}
 		Header.Enums.push_back(std::move(Enum));
 	}
-}
+} // namespace HeaderTool

@@ -42,4 +42,4 @@ namespace HeaderTool
 		const bool bInside = Path.size() > Dir.size() + 1 && Path.compare(0, Dir.size(), Dir) == 0 && Path[Dir.size()] == '/';
 		return bInside ? Path.substr(Dir.size() + 1) : Path;
 	}
-}
+} // namespace HeaderTool

@@ -16,4 +16,4 @@ namespace HeaderTool
 
 	/** Path relative to a folder; the path itself when it does not lie in it. */
 	std::string MakeRelative(const std::string& Path, const std::string& Dir);
-}
+} // namespace HeaderTool

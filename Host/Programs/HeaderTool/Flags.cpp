@@ -42,7 +42,7 @@ namespace HeaderTool
 		private:
 			std::string Text;
 		};
-	}
+	} // namespace
 
 	static constexpr FFlag ClassFlags[] = {
 		{"Abstract", "CLASS_Abstract"},
@@ -92,9 +92,9 @@ namespace HeaderTool
 
 	static std::string_view GetAccessFlag(EAccess Access)
 	{
-		return Access == EAccess::Public ? "CPF_NativeAccessSpecifierPublic"
-			: Access == EAccess::Protected ? "CPF_NativeAccessSpecifierProtected | CPF_Protected"
-										   : "CPF_NativeAccessSpecifierPrivate";
+		return Access == EAccess::Public	  ? "CPF_NativeAccessSpecifierPublic"
+			   : Access == EAccess::Protected ? "CPF_NativeAccessSpecifierProtected | CPF_Protected"
+											  : "CPF_NativeAccessSpecifierPrivate";
 	}
 
 	std::string GetClassFlags(const FClass& Class)
@@ -108,15 +108,19 @@ namespace HeaderTool
 
 	bool IsBlueprintVisible(const FProperty& Property)
 	{
-		static constexpr std::string_view Visible[] = {"BlueprintReadOnly", "BlueprintReadWrite", "BlueprintGetter", "BlueprintSetter", "Interp"};
-		return std::any_of(std::begin(Visible), std::end(Visible), [&](std::string_view Name) { return Property.Specifiers.Has(Name); });
+		static constexpr std::string_view Visible[] = {
+			"BlueprintReadOnly", "BlueprintReadWrite", "BlueprintGetter", "BlueprintSetter", "Interp"};
+		return std::any_of(
+			std::begin(Visible), std::end(Visible), [&](std::string_view Name) { return Property.Specifiers.Has(Name); });
 	}
 
 	std::string GetPropertyFlags(const FProperty& Property)
 	{
 		FFlagList List;
 		List.AddSpecifiers(Property.Specifiers, PropertyFlags);
-		const bool bReadOnlyByGetter = Property.Specifiers.Has("BlueprintGetter") && !Property.Specifiers.Has("BlueprintSetter") && !Property.Specifiers.Has("BlueprintReadWrite");
+		const bool bReadOnlyByGetter = Property.Specifiers.Has("BlueprintGetter") &&
+									   !Property.Specifiers.Has("BlueprintSetter") &&
+									   !Property.Specifiers.Has("BlueprintReadWrite");
 		List.AddIf(bReadOnlyByGetter, "CPF_BlueprintVisible | CPF_BlueprintReadOnly");
 		const FSpecifier* ExposeOnSpawn = Property.Specifiers.FindMeta("ExposeOnSpawn");
 		List.AddIf(ExposeOnSpawn && !EqualsIgnoreCase(GetValueText(*ExposeOnSpawn), "false"), "CPF_ExposeOnSpawn");
@@ -137,21 +141,23 @@ namespace HeaderTool
 
 	std::string GetResultFlags(const FType& Result)
 	{
-		return Result.bConst ? "CPF_Parm | CPF_OutParm | CPF_ReturnParm | CPF_ConstParm" : "CPF_Parm | CPF_OutParm | CPF_ReturnParm";
+		return Result.bConst ? "CPF_Parm | CPF_OutParm | CPF_ReturnParm | CPF_ConstParm"
+							 : "CPF_Parm | CPF_OutParm | CPF_ReturnParm";
 	}
 
 	bool HasOutputs(const FFunction& Function)
 	{
-		return HasResult(Function)
-			|| std::any_of(Function.Parameters.begin(), Function.Parameters.end(),
-				[](const FParameter& Parameter) { return IsOutput(Parameter) && !Parameter.Specifiers.Has("ref"); });
+		return HasResult(Function) ||
+			   std::any_of(Function.Parameters.begin(), Function.Parameters.end(),
+				   [](const FParameter& Parameter) { return IsOutput(Parameter) && !Parameter.Specifiers.Has("ref"); });
 	}
 
 	bool IsBlueprintFunction(const FFunction& Function)
 	{
-		static constexpr std::string_view Names[] = {
-			"BlueprintCallable", "BlueprintPure", "BlueprintImplementableEvent", "BlueprintNativeEvent", "BlueprintGetter", "BlueprintSetter"};
-		return std::any_of(std::begin(Names), std::end(Names), [&](std::string_view Name) { return Function.Specifiers.Has(Name); });
+		static constexpr std::string_view Names[] = {"BlueprintCallable", "BlueprintPure", "BlueprintImplementableEvent",
+			"BlueprintNativeEvent", "BlueprintGetter", "BlueprintSetter"};
+		return std::any_of(
+			std::begin(Names), std::end(Names), [&](std::string_view Name) { return Function.Specifiers.Has(Name); });
 	}
 
 	bool IsPure(const FFunction& Function)
@@ -161,7 +167,8 @@ namespace HeaderTool
 		{
 			return !EqualsIgnoreCase(GetValueText(*Pure), "false");
 		}
-		return Function.Specifiers.Has("BlueprintGetter") || (Function.bConst && Function.Specifiers.Has("BlueprintCallable") && HasOutputs(Function));
+		return Function.Specifiers.Has("BlueprintGetter") ||
+			   (Function.bConst && Function.Specifiers.Has("BlueprintCallable") && HasOutputs(Function));
 	}
 
 	std::string GetFunctionFlags(const FFunction& Function)
@@ -170,7 +177,8 @@ namespace HeaderTool
 		const FSpecifiers& Specifiers = Function.Specifiers;
 		List.AddIf(!Function.IsImplementableEvent(), "FUNC_Native");
 		List.AddIf(Function.IsEvent(), "FUNC_Event | FUNC_BlueprintEvent");
-		const bool bCallable = Specifiers.Has("BlueprintCallable") || Specifiers.Has("BlueprintPure") || Specifiers.Has("BlueprintGetter") || Specifiers.Has("BlueprintSetter");
+		const bool bCallable = Specifiers.Has("BlueprintCallable") || Specifiers.Has("BlueprintPure") ||
+							   Specifiers.Has("BlueprintGetter") || Specifiers.Has("BlueprintSetter");
 		List.AddIf(bCallable, "FUNC_BlueprintCallable");
 		List.AddIf(IsPure(Function), "FUNC_BlueprintPure");
 		List.AddIf(Specifiers.Has("BlueprintCosmetic"), "FUNC_BlueprintCosmetic");
@@ -180,18 +188,21 @@ namespace HeaderTool
 		List.AddIf(Function.bEditorOnly, "FUNC_EditorOnly");
 		List.AddIf(!Function.bVirtual && !Function.IsEvent(), "FUNC_Final");
 		List.AddIf(HasOutputs(Function), "FUNC_HasOutParms");
-		List.Add(Function.Access == EAccess::Public ? "FUNC_Public" : Function.Access == EAccess::Protected ? "FUNC_Protected" : "FUNC_Private");
+		List.Add(Function.Access == EAccess::Public		 ? "FUNC_Public"
+				 : Function.Access == EAccess::Protected ? "FUNC_Protected"
+														 : "FUNC_Private");
 		return List.Get("FUNC_None");
 	}
 
 	std::string GetDelegateFlags(const FDelegate& Delegate)
 	{
-		const bool bOutputs = Delegate.Result.Kind != ETypeKind::Void
-			|| std::any_of(Delegate.Parameters.begin(), Delegate.Parameters.end(), [](const FParameter& Parameter) { return IsOutput(Parameter); });
+		const bool bOutputs =
+			Delegate.Result.Kind != ETypeKind::Void || std::any_of(Delegate.Parameters.begin(), Delegate.Parameters.end(),
+														   [](const FParameter& Parameter) { return IsOutput(Parameter); });
 		FFlagList List;
 		List.Add("FUNC_Delegate | FUNC_Public");
 		List.AddIf(Delegate.bMulticast, "FUNC_MulticastDelegate");
 		List.AddIf(bOutputs, "FUNC_HasOutParms");
 		return List.Get("FUNC_None");
 	}
-}
+} // namespace HeaderTool

@@ -19,4 +19,4 @@ namespace HeaderTool
 	/** True when the function is drawn without execution pins. */
 	bool IsPure(const FFunction& Function);
 	bool HasOutputs(const FFunction& Function);
-}
+} // namespace HeaderTool

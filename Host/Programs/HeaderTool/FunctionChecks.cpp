@@ -9,7 +9,8 @@ namespace HeaderTool
 {
 	static bool IsTextOrContainer(ETypeKind Kind)
 	{
-		return Kind == ETypeKind::String || Kind == ETypeKind::Text || Kind == ETypeKind::Array || Kind == ETypeKind::Set || Kind == ETypeKind::Map;
+		return Kind == ETypeKind::String || Kind == ETypeKind::Text || Kind == ETypeKind::Array || Kind == ETypeKind::Set ||
+			   Kind == ETypeKind::Map;
 	}
 
 	void CheckParameterType(const FCheckContext& Context, const FParameter& Parameter)
@@ -19,7 +20,8 @@ namespace HeaderTool
 		if (Type.Kind == ETypeKind::Unsupported)
 		{
 			const bool bObjectReference = Type.bReference && HasObjectPrefix(Type.Cpp);
-			Context.Error(Parameter.Location, Name + (bObjectReference ? "an object is passed by pointer: write " + Type.Cpp + "*" : Type.Complaint));
+			Context.Error(Parameter.Location,
+				Name + (bObjectReference ? "an object is passed by pointer: write " + Type.Cpp + "*" : Type.Complaint));
 		}
 		else if (Type.Kind == ETypeKind::ObjectPtr)
 		{
@@ -31,11 +33,13 @@ namespace HeaderTool
 		}
 		else if (Type.Kind == ETypeKind::PlainEnum && Type.bReference)
 		{
-			Context.Error(Parameter.Location, Name + "a plain enumeration is passed by reference as TEnumAsByte<" + Type.Target + ">&");
+			Context.Error(
+				Parameter.Location, Name + "a plain enumeration is passed by reference as TEnumAsByte<" + Type.Target + ">&");
 		}
 		else if (Type.Kind == ETypeKind::MulticastDelegate)
 		{
-			Context.Error(Parameter.Location, Name + "a multicast delegate cannot be a parameter: use a dynamic single-cast delegate");
+			Context.Error(
+				Parameter.Location, Name + "a multicast delegate cannot be a parameter: use a dynamic single-cast delegate");
 		}
 	}
 
@@ -48,7 +52,8 @@ namespace HeaderTool
 		}
 		else if (Result.Kind == ETypeKind::ObjectPtr)
 		{
-			Context.Error(Function.Location, "the result of '" + Function.Name + "': TObjectPtr is for members: write " + Result.Target + "*");
+			Context.Error(Function.Location,
+				"the result of '" + Function.Name + "': TObjectPtr is for members: write " + Result.Target + "*");
 		}
 		else if (Result.Kind == ETypeKind::MulticastDelegate || Result.Kind == ETypeKind::Delegate)
 		{
@@ -61,9 +66,13 @@ namespace HeaderTool
 		const std::vector<const FKnownClass*> Bases = Context.GetBases(Class);
 		const auto IsProperty = [&](const std::string& Name)
 		{
-			const auto HasName = [&](const std::vector<std::string>& Names) { return std::find(Names.begin(), Names.end(), Name) != Names.end(); };
-			return std::any_of(Class.Properties.begin(), Class.Properties.end(), [&](const FProperty& Property) { return Property.Name == Name; })
-				|| std::any_of(Bases.begin(), Bases.end(), [&](const FKnownClass* Base) { return HasName(Base->Properties); });
+			const auto HasName = [&](const std::vector<std::string>& Names)
+			{
+				return std::find(Names.begin(), Names.end(), Name) != Names.end();
+			};
+			return std::any_of(Class.Properties.begin(), Class.Properties.end(),
+					   [&](const FProperty& Property) { return Property.Name == Name; }) ||
+				   std::any_of(Bases.begin(), Bases.end(), [&](const FKnownClass* Base) { return HasName(Base->Properties); });
 		};
 		for (const FParameter& Parameter : Function.Parameters)
 		{
@@ -74,17 +83,20 @@ namespace HeaderTool
 			}
 			if (Parameter.Name == "ReturnValue")
 			{
-				Context.Error(Parameter.Location, "'ReturnValue' is the name of the result: rename the parameter of '" + Function.Name + "'");
+				Context.Error(Parameter.Location,
+					"'ReturnValue' is the name of the result: rename the parameter of '" + Function.Name + "'");
 			}
 			if (!Function.bStatic && IsProperty(Parameter.Name))
 			{
-				Context.Error(Parameter.Location, "the parameter '" + Parameter.Name + "' of '" + Function.Name + "' hides the property of that name: write 'In" + Parameter.Name + "'");
+				Context.Error(Parameter.Location, "the parameter '" + Parameter.Name + "' of '" + Function.Name +
+													  "' hides the property of that name: write 'In" + Parameter.Name + "'");
 			}
 			CheckParameterType(Context, Parameter);
 			CheckSpecifiers(Context, EMacro::Parameter, Parameter.Specifiers);
 			std::string Text;
 			std::string Complaint;
-			if (!Parameter.Default.empty() && IsBlueprintFunction(Function) && !ConvertDefaultArgument(Parameter, Text, Complaint))
+			if (!Parameter.Default.empty() && IsBlueprintFunction(Function) &&
+				!ConvertDefaultArgument(Parameter, Text, Complaint))
 			{
 				Context.Error(Parameter.Location, Complaint);
 			}
@@ -111,7 +123,8 @@ namespace HeaderTool
 		const FSpecifier* Pure = Function.Specifiers.Find("BlueprintPure");
 		if (Pure && IsPure(Function) && !HasOutputs(Function))
 		{
-			Context.Error(Function.Location, "'" + Function.Name + "' is BlueprintPure but has neither result nor output parameter: write BlueprintCallable");
+			Context.Error(Function.Location,
+				"'" + Function.Name + "' is BlueprintPure but has neither result nor output parameter: write BlueprintCallable");
 		}
 	}
 
@@ -120,17 +133,22 @@ namespace HeaderTool
 		const std::string Name = "'" + Function.Name + "'";
 		if (Function.IsNativeEvent() && Function.IsImplementableEvent())
 		{
-			Context.Error(Function.Location, Name + " is both BlueprintNativeEvent and BlueprintImplementableEvent: take one away");
+			Context.Error(
+				Function.Location, Name + " is both BlueprintNativeEvent and BlueprintImplementableEvent: take one away");
 		}
 		if (Function.bHasBody)
 		{
-			Context.Error(Function.Location, Function.IsNativeEvent() ? Name + " is a native event, whose body is generated: write the default in 'virtual " + GetDeclaredType(Function.Result) + " " + Function.Name + "_Implementation'"
-																	  : Name + " is an implementable event: declare it only, its body is generated");
+			Context.Error(Function.Location,
+				Function.IsNativeEvent() ? Name + " is a native event, whose body is generated: write the default in 'virtual " +
+											   GetDeclaredType(Function.Result) + " " + Function.Name + "_Implementation'"
+										 : Name + " is an implementable event: declare it only, its body is generated");
 		}
 		if (Function.bVirtual)
 		{
-			Context.Error(Function.Location, Function.IsNativeEvent() ? Name + " is a native event: declare it non-virtual; " + Function.Name + "_Implementation is the virtual one"
-																	  : Name + " is an implementable event: it cannot be virtual");
+			Context.Error(Function.Location,
+				Function.IsNativeEvent()
+					? Name + " is a native event: declare it non-virtual; " + Function.Name + "_Implementation is the virtual one"
+					: Name + " is an implementable event: it cannot be virtual");
 		}
 		if (Function.bStatic)
 		{
@@ -138,7 +156,8 @@ namespace HeaderTool
 		}
 		if (Function.IsImplementableEvent() && Function.Access == EAccess::Private)
 		{
-			Context.Error(Function.Location, Name + " is an implementable event: it cannot be private; make it protected or public");
+			Context.Error(
+				Function.Location, Name + " is an implementable event: it cannot be private; make it protected or public");
 		}
 		if (Function.IsImplementableEvent() && Class.HasMethod(Function.Name + "_Implementation"))
 		{
@@ -152,7 +171,9 @@ namespace HeaderTool
 		{
 			if (IsTextOrContainer(Parameter.Type.Kind) && !Parameter.Type.bReference)
 			{
-				Context.Error(Parameter.Location, "'" + Parameter.Name + "': events take strings, texts and containers as 'const " + Parameter.Type.Written + "&'");
+				Context.Error(Parameter.Location, "'" + Parameter.Name +
+													  "': events take strings, texts and containers as 'const " +
+													  Parameter.Type.Written + "&'");
 			}
 		}
 	}
@@ -172,12 +193,15 @@ namespace HeaderTool
 		{
 			if (std::find(Base->Functions.begin(), Base->Functions.end(), Function.Name) != Base->Functions.end())
 			{
-				Context.Error(Function.Location, Function.bOverride ? Name + " overrides a UFUNCTION(): take the macro off"
-																	: Name + " is a UFUNCTION() of a base class already: override it without the macro, or rename it");
+				Context.Error(Function.Location,
+					Function.bOverride
+						? Name + " overrides a UFUNCTION(): take the macro off"
+						: Name + " is a UFUNCTION() of a base class already: override it without the macro, or rename it");
 				break;
 			}
 		}
-		const bool bSameAsProperty = std::any_of(Class.Properties.begin(), Class.Properties.end(), [&](const FProperty& Property) { return Property.Name == Function.Name; });
+		const bool bSameAsProperty = std::any_of(Class.Properties.begin(), Class.Properties.end(),
+			[&](const FProperty& Property) { return Property.Name == Function.Name; });
 		if (bSameAsProperty)
 		{
 			Context.Error(Function.Location, Name + " has the name of a property: rename one of them");
@@ -199,7 +223,8 @@ namespace HeaderTool
 		{
 			if (!Names.insert(Function.Name).second)
 			{
-				Context.Error(Function.Location, "'" + Function.Name + "' is overloaded: one UFUNCTION() a name; rename this one");
+				Context.Error(
+					Function.Location, "'" + Function.Name + "' is overloaded: one UFUNCTION() a name; rename this one");
 			}
 			CheckSpecifiers(Context, EMacro::Function, Function.Specifiers);
 			CheckConditionals(Context, *Header.File, Function.Location, "WITH_EDITOR", "WITH_EDITORONLY_DATA");
@@ -213,4 +238,4 @@ namespace HeaderTool
 			}
 		}
 	}
-}
+} // namespace HeaderTool

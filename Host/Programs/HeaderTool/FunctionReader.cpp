@@ -82,8 +82,9 @@ namespace HeaderTool
 		const int Num = clang_Cursor_getNumArguments(Cursor);
 		for (int Index = 0; Index < Num; ++Index)
 		{
-			Result.Parameters.push_back(ReadParameter(*Mark.File, clang_Cursor_getArgument(Cursor, static_cast<unsigned>(Index))));
+			Result.Parameters.push_back(
+				ReadParameter(*Mark.File, clang_Cursor_getArgument(Cursor, static_cast<unsigned>(Index))));
 		}
 		return Result;
 	}
-}
+} // namespace HeaderTool

@@ -28,10 +28,11 @@ namespace HeaderTool
 		Code.Close(";");
 	}
 
-	static std::string MakeParameterRow(const std::string& Parms, const std::string& Name, const std::string& Flags, const std::string& Metadata)
+	static std::string MakeParameterRow(
+		const std::string& Parms, const std::string& Name, const std::string& Flags, const std::string& Metadata)
 	{
-		return "{" + MakeLiteral(Name) + ", &Host::MakeProperty<decltype(" + Parms + "::" + Name + ")>, offsetof(" + Parms + ", " + Name + "), " + Flags + ", " + Metadata
-			+ "},";
+		return "{" + MakeLiteral(Name) + ", &Host::MakeProperty<decltype(" + Parms + "::" + Name + ")>, offsetof(" + Parms +
+			   ", " + Name + "), " + Flags + ", " + Metadata + "},";
 	}
 
 	static void WriteParameterTable(FCode& Code, const FFunction& Function)
@@ -40,7 +41,8 @@ namespace HeaderTool
 		std::vector<std::string> Rows;
 		for (const FParameter& Parameter : Function.Parameters)
 		{
-			const std::string Metadata = WriteMetadata(Code, "Meta_" + Function.Name + "_" + Parameter.Name, MakeParameterMetadata(Parameter));
+			const std::string Metadata =
+				WriteMetadata(Code, "Meta_" + Function.Name + "_" + Parameter.Name, MakeParameterMetadata(Parameter));
 			Rows.push_back(MakeParameterRow(Parms, Parameter.Name, GetParameterFlags(Parameter), Metadata));
 		}
 		if (HasResult(Function))
@@ -65,7 +67,8 @@ namespace HeaderTool
 		}
 		if (Class.Kind == EClassKind::InterfaceBody)
 		{
-			return "static_cast<" + Class.Name + "*>(Context->GetNativeInterfaceAddress(" + GetReflectedClass(Class.Name) + "::StaticClass()))->" + Name;
+			return "static_cast<" + Class.Name + "*>(Context->GetNativeInterfaceAddress(" + GetReflectedClass(Class.Name) +
+				   "::StaticClass()))->" + Name;
 		}
 		return "static_cast<" + Class.Name + "*>(Context)->" + Name;
 	}
@@ -101,9 +104,11 @@ namespace HeaderTool
 	{
 		const std::string Native = Function.IsImplementableEvent() ? "nullptr" : "&Exec_" + Function.Name;
 		const std::string Parms = GetParmsName(Function);
-		const std::string Layout = HasParms(Function) ? "sizeof(" + Parms + "), alignof(" + Parms + "), Parameters_" + Function.Name : "0, 1, {}";
+		const std::string Layout =
+			HasParms(Function) ? "sizeof(" + Parms + "), alignof(" + Parms + "), Parameters_" + Function.Name : "0, 1, {}";
 		const std::string Metadata = MakeFunctionMetadata(Function).empty() ? "{}" : "Meta_" + Function.Name;
-		return "{" + MakeLiteral(Function.Name) + ", " + GetFunctionFlags(Function) + ", " + Native + ", " + Layout + ", " + Metadata + "},";
+		return "{" + MakeLiteral(Function.Name) + ", " + GetFunctionFlags(Function) + ", " + Native + ", " + Layout + ", " +
+			   Metadata + "},";
 	}
 
 	/** Fills the parameters, calls the script, copies the outputs. */
@@ -143,12 +148,14 @@ namespace HeaderTool
 
 	static std::string MakeSignature(const FClass& Class, const FFunction& Function)
 	{
-		return GetDeclaredType(Function.Result) + " " + Class.Name + "::" + Function.Name + "(" + GetParameterList(Function, true) + ")" + (Function.bConst ? " const" : "");
+		return GetDeclaredType(Function.Result) + " " + Class.Name + "::" + Function.Name + "(" +
+			   GetParameterList(Function, true) + ")" + (Function.bConst ? " const" : "");
 	}
 
 	static std::string MakeUnnamedSignature(const FClass& Class, const FFunction& Function)
 	{
-		return GetDeclaredType(Function.Result) + " " + Class.Name + "::" + Function.Name + "(" + GetParameterList(Function, false) + ")" + (Function.bConst ? " const" : "");
+		return GetDeclaredType(Function.Result) + " " + Class.Name + "::" + Function.Name + "(" +
+			   GetParameterList(Function, false) + ")" + (Function.bConst ? " const" : "");
 	}
 
 	void WriteEventBody(FCode& Code, const FClass& Class, const FFunction& Function)
@@ -156,7 +163,8 @@ namespace HeaderTool
 		if (Class.Kind == EClassKind::InterfaceBody)
 		{
 			Code.Open(MakeUnnamedSignature(Class, Function));
-			Code.Line("checkf(false, TEXT(\"Events of interfaces are not called directly: call " + Class.Name + "::Execute_" + Function.Name + "\"));");
+			Code.Line("checkf(false, TEXT(\"Events of interfaces are not called directly: call " + Class.Name + "::Execute_" +
+					  Function.Name + "\"));");
 			WriteDefaultReturn(Code, Function);
 			Code.Close();
 			return;
@@ -173,7 +181,8 @@ namespace HeaderTool
 		Code.Close();
 		if (Function.IsNativeEvent())
 		{
-			Code.Line((HasResult(Function) ? "return " : "") + Function.Name + "_Implementation(" + GetArgumentList(Function, "") + ");");
+			Code.Line((HasResult(Function) ? "return " : "") + Function.Name + "_Implementation(" +
+					  GetArgumentList(Function, "") + ");");
 		}
 		else
 		{
@@ -185,10 +194,12 @@ namespace HeaderTool
 	void WriteExecuteBody(FCode& Code, const FClass& Class, const FFunction& Function)
 	{
 		const std::string Parameters = GetParameterList(Function, true);
-		Code.Open(GetDeclaredType(Function.Result) + " " + Class.Name + "::Execute_" + Function.Name + "(" + (Function.bConst ? "const " : "") + "UObject* HostObject"
-			+ (Parameters.empty() ? "" : ", ") + Parameters + ")");
+		Code.Open(GetDeclaredType(Function.Result) + " " + Class.Name + "::Execute_" + Function.Name + "(" +
+				  (Function.bConst ? "const " : "") + "UObject* HostObject" + (Parameters.empty() ? "" : ", ") + Parameters +
+				  ")");
 		const std::string ObjectClass = GetReflectedClass(Class.Name);
-		Code.Line("checkf(HostObject && HostObject->GetClass()->ImplementsInterface(" + ObjectClass + "::StaticClass()), TEXT(\"The object does not implement " + ObjectClass + "\"));");
+		Code.Line("checkf(HostObject && HostObject->GetClass()->ImplementsInterface(" + ObjectClass +
+				  "::StaticClass()), TEXT(\"The object does not implement " + ObjectClass + "\"));");
 		Code.Line("static const FName HostName(" + MakeLiteral(Function.Name) + ");");
 		Code.Open("if (UFunction* HostScript = Host::FindScriptFunction(HostObject, HostName))");
 		WriteScriptCall(Code, Class, Function, Function.bConst ? "const_cast<UObject*>(HostObject)" : "HostObject");
@@ -199,9 +210,11 @@ namespace HeaderTool
 		Code.Close();
 		if (Function.IsNativeEvent())
 		{
-			const std::string Native = (Function.bConst ? "const " : "") + Class.Name + "* HostNative = static_cast<" + (Function.bConst ? "const " : "") + Class.Name + "*>";
+			const std::string Native = (Function.bConst ? "const " : "") + Class.Name + "* HostNative = static_cast<" +
+									   (Function.bConst ? "const " : "") + Class.Name + "*>";
 			Code.Open("if (" + Native + "(HostObject->GetNativeInterfaceAddress(" + ObjectClass + "::StaticClass())))");
-			Code.Line((HasResult(Function) ? "return " : "") + std::string("HostNative->") + Function.Name + "_Implementation(" + GetArgumentList(Function, "") + ");");
+			Code.Line((HasResult(Function) ? "return " : "") + std::string("HostNative->") + Function.Name + "_Implementation(" +
+					  GetArgumentList(Function, "") + ");");
 			Code.Close();
 		}
 		WriteDefaultReturn(Code, Function);
@@ -229,9 +242,11 @@ namespace HeaderTool
 			WriteParameterTable(Code, Function);
 		}
 		const std::string Metadata = WriteMetadata(Code, "Meta", MakeDelegateMetadata(Delegate));
-		const std::string Layout = HasParms(Function) ? "sizeof(" + Parms + "), alignof(" + Parms + "), Parameters_" + Function.Name : "0, 1, {}";
+		const std::string Layout =
+			HasParms(Function) ? "sizeof(" + Parms + "), alignof(" + Parms + "), Parameters_" + Function.Name : "0, 1, {}";
 		Code.Open("static constexpr Host::FSignatureInfo Info =");
-		Code.Line("{" + MakeLiteral(GetScriptName(Delegate.Name) + "__DelegateSignature") + ", " + GetDelegateFlags(Delegate) + ", nullptr, " + Layout + ", " + Metadata + "},");
+		Code.Line("{" + MakeLiteral(GetScriptName(Delegate.Name) + "__DelegateSignature") + ", " + GetDelegateFlags(Delegate) +
+				  ", nullptr, " + Layout + ", " + Metadata + "},");
 		Code.Line(MakeLiteral("/Script/" + Module.Name) + ",");
 		Code.Line(bOuterIsClass ? "&" + GetReflectedClass(Delegate.OuterClass) + "::StaticClass," : "nullptr,");
 		Code.Close(";");
@@ -240,12 +255,14 @@ namespace HeaderTool
 
 	void WriteDelegateAccessor(FCode& Code, const FDelegate& Delegate)
 	{
-		const std::string Scope = Delegate.OuterClass.empty() ? "" : "Host::TReflection<" + GetReflectedClass(Delegate.OuterClass) + ">::";
+		const std::string Scope =
+			Delegate.OuterClass.empty() ? "" : "Host::TReflection<" + GetReflectedClass(Delegate.OuterClass) + ">::";
 		Code.Line("template<>");
 		Code.Open("UFunction* Host::StaticSignature<" + Delegate.QualifiedName + ">()");
 		Code.Line("static UFunction* Signature = nullptr;");
-		Code.Line("return Signature ? Signature : Host::ConstructSignature(Signature, " + Scope + "FSignature_" + Delegate.Name + "::Info);");
+		Code.Line("return Signature ? Signature : Host::ConstructSignature(Signature, " + Scope + "FSignature_" + Delegate.Name +
+				  "::Info);");
 		Code.Close();
 		Code.Line();
 	}
-}
+} // namespace HeaderTool

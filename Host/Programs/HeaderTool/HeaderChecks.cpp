@@ -9,7 +9,10 @@ namespace HeaderTool
 	static unsigned GetFirstTypeLine(const FHeader& Header)
 	{
 		unsigned Result = 0;
-		const auto See = [&](const FLocation& Location) { Result = Result == 0 ? Location.Line : std::min(Result, Location.Line); };
+		const auto See = [&](const FLocation& Location)
+		{
+			Result = Result == 0 ? Location.Line : std::min(Result, Location.Line);
+		};
 		for (const FEnum& Enum : Header.Enums)
 		{
 			See(Enum.Location);
@@ -25,7 +28,8 @@ namespace HeaderTool
 		return Result;
 	}
 
-	/** The number of parameters is part of a delegate macro's name: there is none for more than nine, and types come with names. */
+	/** The number of parameters is part of a delegate macro's name: there is none for more than nine, and types come with names.
+	 */
 	static void CheckDelegateMacros(const FCheckContext& Context, const FSourceFile& File)
 	{
 		const std::string_view Text = File.GetText();
@@ -47,12 +51,14 @@ namespace HeaderTool
 				const size_t Num = SplitMacroArguments(Arguments).size();
 				if (Num > NumNames + 18)
 				{
-					Context.Error({File.GetPath(), File.GetLine(Offset)}, "a dynamic delegate has at most nine parameters: pass a USTRUCT");
+					Context.Error(
+						{File.GetPath(), File.GetLine(Offset)}, "a dynamic delegate has at most nine parameters: pass a USTRUCT");
 				}
 				else if (Num > NumNames && (Num - NumNames) % 2 != 0)
 				{
 					Context.Error({File.GetPath(), File.GetLine(Offset)},
-						"type and name of each parameter are arguments of their own: write (FName, Type1, Name1, ...); a type with a comma needs a USTRUCT around it");
+						"type and name of each parameter are arguments of their own: write (FName, Type1, Name1, ...); a type "
+						"with a comma needs a USTRUCT around it");
 				}
 			}
 			Offset += Word.size();
@@ -71,7 +77,8 @@ namespace HeaderTool
 			const bool bGenerated = Include.Path.ends_with(".generated.h");
 			if (bGenerated && Include.Path != Wanted)
 			{
-				Context.Error({Path, Include.Line}, "a header includes its own generated header only: write #include \"" + Wanted + "\"");
+				Context.Error(
+					{Path, Include.Line}, "a header includes its own generated header only: write #include \"" + Wanted + "\"");
 			}
 			Own = Include.Path == Wanted ? &Include : Own;
 		}
@@ -80,7 +87,8 @@ namespace HeaderTool
 		{
 			if (FirstType > 0)
 			{
-				Context.Error({Path, FirstType}, "the header declares reflected types: write #include \"" + Wanted + "\" as its last include");
+				Context.Error({Path, FirstType},
+					"the header declares reflected types: write #include \"" + Wanted + "\" as its last include");
 			}
 			return;
 		}
@@ -93,4 +101,4 @@ namespace HeaderTool
 			Context.Error({Path, Own->Line}, "\"" + Wanted + "\" must be included ahead of the first reflected type");
 		}
 	}
-}
+} // namespace HeaderTool

@@ -11,7 +11,10 @@ namespace HeaderTool
 		class FMacro
 		{
 		public:
-			explicit FMacro(const std::string& Name) : Text("#define " + Name) {}
+			explicit FMacro(const std::string& Name)
+				: Text("#define " + Name)
+			{
+			}
 
 			void Line(const std::string& Content) { Text += " \\\n\t" + Content; }
 
@@ -20,7 +23,7 @@ namespace HeaderTool
 		private:
 			std::string Text;
 		};
-	}
+	} // namespace
 
 	static std::string GetFileId(const FModule& Module, const FHeader& Header)
 	{
@@ -52,7 +55,8 @@ namespace HeaderTool
 
 	static std::string GetImplementationSignature(const FFunction& Function, bool bNamed)
 	{
-		return GetDeclaredType(Function.Result) + " " + Function.Name + "_Implementation(" + GetParameterList(Function, bNamed) + ")" + (Function.bConst ? " const" : "");
+		return GetDeclaredType(Function.Result) + " " + Function.Name + "_Implementation(" + GetParameterList(Function, bNamed) +
+			   ")" + (Function.bConst ? " const" : "");
 	}
 
 	static void WriteStructBody(FMacro& Macro, const FClass& Class)
@@ -112,8 +116,8 @@ namespace HeaderTool
 	static std::string GetExecuteDeclaration(const FFunction& Function)
 	{
 		const std::string Parameters = GetParameterList(Function, true);
-		return "static " + GetDeclaredType(Function.Result) + " Execute_" + Function.Name + "(" + (Function.bConst ? "const " : "") + "UObject* HostObject"
-			+ (Parameters.empty() ? "" : ", ") + Parameters + ");";
+		return "static " + GetDeclaredType(Function.Result) + " Execute_" + Function.Name + "(" +
+			   (Function.bConst ? "const " : "") + "UObject* HostObject" + (Parameters.empty() ? "" : ", ") + Parameters + ");";
 	}
 
 	static void WriteInterfaceBody(FMacro& Macro, const FClass& Class)
@@ -162,7 +166,9 @@ namespace HeaderTool
 			if (Enum.Form == EEnumForm::EnumClass)
 			{
 				const std::string Underlying = Enum.bUInt8 ? " : uint8" : "";
-				Text += Underlying.empty() ? "" : "enum class " + Enum.Name + Underlying + ";\ntemplate<>\nUEnum* StaticEnum<" + Enum.Name + ">();\n";
+				Text += Underlying.empty()
+							? ""
+							: "enum class " + Enum.Name + Underlying + ";\ntemplate<>\nUEnum* StaticEnum<" + Enum.Name + ">();\n";
 			}
 		}
 		for (const FClass& Class : Header.Classes)
@@ -201,4 +207,4 @@ namespace HeaderTool
 		Result += "#undef CURRENT_FILE_ID\n#define CURRENT_FILE_ID " + Id + "\n";
 		return Result;
 	}
-}
+} // namespace HeaderTool

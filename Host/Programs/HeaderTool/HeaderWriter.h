@@ -12,4 +12,4 @@ namespace HeaderTool
 
 	/** The native events of a class whose _Implementation the header does not declare. */
 	std::vector<const FFunction*> GetUndeclaredImplementations(const FClass& Class);
-}
+} // namespace HeaderTool

@@ -37,4 +37,4 @@ namespace HeaderTool
 	 * is somebody's own.
 	 */
 	std::string SuggestMetadataKey(std::string_view Word);
-}
+} // namespace HeaderTool

@@ -20,7 +20,8 @@ namespace HeaderTool
 	}
 
 	/** Specifiers whose value is metadata of the same name. */
-	static void AddSpecifier(FMetadata& Metadata, const FSpecifiers& Specifiers, std::string_view Key, std::string_view MetaKey = {})
+	static void AddSpecifier(
+		FMetadata& Metadata, const FSpecifiers& Specifiers, std::string_view Key, std::string_view MetaKey = {})
 	{
 		if (const FSpecifier* Specifier = Specifiers.Find(Key))
 		{
@@ -56,8 +57,8 @@ namespace HeaderTool
 		{
 			Add(Result, "IsBlueprintBase", Specifiers.Has("Blueprintable") ? "true" : "false");
 		}
-		static constexpr std::string_view Lists[] = {
-			"HideCategories", "ShowCategories", "AutoExpandCategories", "AutoCollapseCategories", "HideFunctions", "ShowFunctions", "PrioritizeCategories"};
+		static constexpr std::string_view Lists[] = {"HideCategories", "ShowCategories", "AutoExpandCategories",
+			"AutoCollapseCategories", "HideFunctions", "ShowFunctions", "PrioritizeCategories"};
 		for (const std::string_view List : Lists)
 		{
 			AddSpecifier(Result, Specifiers, List);
@@ -71,7 +72,8 @@ namespace HeaderTool
 	FMetadata MakePropertyMetadata(const FProperty& Property)
 	{
 		FMetadata Result;
-		static constexpr std::string_view Values[] = {"Category", "BlueprintGetter", "BlueprintSetter", "Getter", "Setter", "FieldNotify"};
+		static constexpr std::string_view Values[] = {
+			"Category", "BlueprintGetter", "BlueprintSetter", "Getter", "Setter", "FieldNotify"};
 		for (const std::string_view Value : Values)
 		{
 			AddSpecifier(Result, Property.Specifiers, Value);
@@ -87,7 +89,8 @@ namespace HeaderTool
 	FMetadata MakeFunctionMetadata(const FFunction& Function)
 	{
 		FMetadata Result;
-		static constexpr std::string_view Values[] = {"Category", "CallInEditor", "BlueprintInternalUseOnly", "BlueprintGetter", "BlueprintSetter", "FieldNotify"};
+		static constexpr std::string_view Values[] = {
+			"Category", "CallInEditor", "BlueprintInternalUseOnly", "BlueprintGetter", "BlueprintSetter", "FieldNotify"};
 		for (const std::string_view Value : Values)
 		{
 			AddSpecifier(Result, Function.Specifiers, Value);
@@ -142,4 +145,4 @@ namespace HeaderTool
 		AddCommon(Result, Enumerator);
 		return Result;
 	}
-}
+} // namespace HeaderTool

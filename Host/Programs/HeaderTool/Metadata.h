@@ -14,4 +14,4 @@ namespace HeaderTool
 	FMetadata MakeDelegateMetadata(const FDelegate& Delegate);
 	FMetadata MakeEnumMetadata(const FEnum& Enum);
 	FMetadata MakeEnumeratorMetadata(const FEnumerator& Enumerator);
-}
+} // namespace HeaderTool

@@ -12,13 +12,15 @@ namespace HeaderTool
 
 	const FBase* FClass::GetReflectedBase() const
 	{
-		const auto Found = std::find_if(Bases.begin(), Bases.end(), [](const FBase& Base) { return Base.bReflected && !Base.bInterface; });
+		const auto Found =
+			std::find_if(Bases.begin(), Bases.end(), [](const FBase& Base) { return Base.bReflected && !Base.bInterface; });
 		return Found == Bases.end() ? nullptr : &*Found;
 	}
 
 	static bool HasPrefix(const std::string& Name, std::string_view Prefixes)
 	{
-		return Name.size() > 1 && Prefixes.find(Name[0]) != std::string_view::npos && std::isupper(static_cast<unsigned char>(Name[1]));
+		return Name.size() > 1 && Prefixes.find(Name[0]) != std::string_view::npos &&
+			   std::isupper(static_cast<unsigned char>(Name[1]));
 	}
 
 	std::string GetReflectedClass(const std::string& ClassName)
@@ -30,4 +32,4 @@ namespace HeaderTool
 	{
 		return HasPrefix(CppName, "UAFI") ? CppName.substr(1) : CppName;
 	}
-}
+} // namespace HeaderTool

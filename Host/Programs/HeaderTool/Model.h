@@ -241,4 +241,4 @@ namespace HeaderTool
 		std::vector<std::string> DeclaredFunctions;
 		bool bInitializerConstructor = true;
 	};
-}
+} // namespace HeaderTool

@@ -24,7 +24,9 @@ namespace HeaderTool
 	};
 
 	FModuleReader::FModuleReader(const FOptions& InOptions, const FTranslationUnit& InUnit, FDiagnostics& InDiagnostics)
-		: Options(InOptions), Unit(InUnit), Diagnostics(InDiagnostics)
+		: Options(InOptions)
+		, Unit(InUnit)
+		, Diagnostics(InDiagnostics)
 	{
 	}
 
@@ -250,8 +252,9 @@ namespace HeaderTool
 			else
 			{
 				const char* What = Mark.Kind == EMark::Struct ? "USTRUCT() must stand right ahead of the definition of a struct"
-					: Mark.Kind == EMark::Class				  ? "UCLASS() must stand right ahead of the definition of a class"
-															  : "UINTERFACE() must stand right ahead of the definition of the U class";
+								   : Mark.Kind == EMark::Class
+									   ? "UCLASS() must stand right ahead of the definition of a class"
+									   : "UINTERFACE() must stand right ahead of the definition of the U class";
 				Diagnostics.Error(Location, Kind == CXCursor_ClassTemplate ? "a template cannot be reflected" : What);
 			}
 			break;
@@ -288,14 +291,15 @@ namespace HeaderTool
 			const std::optional<FMark> Mark = GetMark(Child);
 			if (Mark && Mark->Kind != EMark::Delegate)
 			{
-				Diagnostics.Error({Mark->File->GetPath(), Mark->Line},
-					"reflected types stand at file scope: move this one out of " + Where);
+				Diagnostics.Error(
+					{Mark->File->GetPath(), Mark->Line}, "reflected types stand at file scope: move this one out of " + Where);
 				return;
 			}
-			if (Kind == CXCursor_Namespace || ((Kind == CXCursor_ClassDecl || Kind == CXCursor_StructDecl) && clang_isCursorDefinition(Child)))
+			if (Kind == CXCursor_Namespace ||
+				((Kind == CXCursor_ClassDecl || Kind == CXCursor_StructDecl) && clang_isCursorDefinition(Child)))
 			{
 				FindMisplaced(Child, Where, Header);
 			}
 		}
 	}
-}
+} // namespace HeaderTool

@@ -76,7 +76,8 @@ namespace HeaderTool
 		std::string GetDelegateMacro(CXCursor Cursor);
 
 		void ReadEnum(FHeader& Header, const FMark& Mark, CXCursor Cursor);
-		bool ReadDelegate(std::vector<FDelegate>& Out, const std::optional<FMark>& Mark, CXCursor Cursor, const std::string& OuterClass);
+		bool ReadDelegate(
+			std::vector<FDelegate>& Out, const std::optional<FMark>& Mark, CXCursor Cursor, const std::string& OuterClass);
 		void ReadDelegateTypes(FDelegate& Delegate, CXCursor Class, bool bHasResult);
 		void ReadClass(FHeader& Header, const FMark* Mark, CXCursor Cursor);
 		void ReadBases(FClass& Class, CXCursor Cursor);
@@ -103,4 +104,4 @@ namespace HeaderTool
 		/** Where the last reflected member's declaration starts: a second declarator starts there too. */
 		unsigned LastMemberStart = 0;
 	};
-}
+} // namespace HeaderTool

@@ -77,7 +77,7 @@ namespace HeaderTool
 			std::set<std::string> Structs;
 			std::set<std::string> Delegates;
 		};
-	}
+	} // namespace
 
 	static void AddParameters(FReferences& References, const std::vector<FParameter>& Parameters, const FType& Result)
 	{
@@ -255,4 +255,4 @@ namespace HeaderTool
 		WriteRegistration(Code, Module);
 		return Code.GetText();
 	}
-}
+} // namespace HeaderTool

@@ -4,7 +4,8 @@
 
 namespace HeaderTool
 {
-	static bool ExpandArgumentFiles(const std::vector<std::string>& Arguments, std::vector<std::string>& OutExpanded, std::string& OutError)
+	static bool ExpandArgumentFiles(
+		const std::vector<std::string>& Arguments, std::vector<std::string>& OutExpanded, std::string& OutError)
 	{
 		for (size_t Index = 0; Index < Arguments.size(); ++Index)
 		{
@@ -82,10 +83,11 @@ namespace HeaderTool
 		}
 		if (OutOptions.Module.empty() || OutOptions.OutputDir.empty())
 		{
-			OutError = "usage: HeaderTool --module NAME --output DIR [--include DIR]... [--define NAME=VALUE]... [--header FILE]... "
-					   "[--depfile FILE] [--arguments FILE]";
+			OutError =
+				"usage: HeaderTool --module NAME --output DIR [--include DIR]... [--define NAME=VALUE]... [--header FILE]... "
+				"[--depfile FILE] [--arguments FILE]";
 			return false;
 		}
 		return true;
 	}
-}
+} // namespace HeaderTool

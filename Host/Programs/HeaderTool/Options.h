@@ -26,4 +26,4 @@ namespace HeaderTool
 	 * False, with a reason, when the arguments make no sense.
 	 */
 	bool ReadOptions(const std::vector<std::string>& Arguments, FOptions& OutOptions, std::string& OutError);
-}
+} // namespace HeaderTool

@@ -24,7 +24,9 @@ namespace HeaderTool
 		}
 		const ETypeKind Key = Type.Arguments[0].Kind;
 		const bool bUnhashable = Key == ETypeKind::Text || Key == ETypeKind::Delegate || Key == ETypeKind::Bool;
-		return bUnhashable ? "'" + Type.Arguments[0].Written + "' cannot be the " + (Type.Kind == ETypeKind::Set ? "element of a set" : "key of a map") + ": use FName or FString" : "";
+		return bUnhashable ? "'" + Type.Arguments[0].Written + "' cannot be the " +
+								 (Type.Kind == ETypeKind::Set ? "element of a set" : "key of a map") + ": use FName or FString"
+						   : "";
 	}
 
 	static void CheckType(const FCheckContext& Context, const FProperty& Property)
@@ -37,15 +39,19 @@ namespace HeaderTool
 		}
 		if (Type.bReference)
 		{
-			Context.Error(Property.Location, "'" + Property.Name + "': a reference cannot be a UPROPERTY(): hold the value, or an object in TObjectPtr");
+			Context.Error(Property.Location,
+				"'" + Property.Name + "': a reference cannot be a UPROPERTY(): hold the value, or an object in TObjectPtr");
 		}
 		if (Type.bConst)
 		{
-			Context.Error(Property.Location, "'" + Property.Name + "': a UPROPERTY() cannot be const: take the const away, or VisibleAnywhere to keep users from editing");
+			Context.Error(Property.Location,
+				"'" + Property.Name +
+					"': a UPROPERTY() cannot be const: take the const away, or VisibleAnywhere to keep users from editing");
 		}
 		if (Type.Kind == ETypeKind::PlainEnum && !Property.bBitField)
 		{
-			Context.Error(Property.Location, "'" + Property.Name + "': a plain enumeration is held in TEnumAsByte<" + Type.Target + ">");
+			Context.Error(
+				Property.Location, "'" + Property.Name + "': a plain enumeration is held in TEnumAsByte<" + Type.Target + ">");
 		}
 		if (Property.bBitField && Type.Kind != ETypeKind::Bool && Type.Kind != ETypeKind::UInt8 && Type.Kind != ETypeKind::UInt32)
 		{
@@ -64,13 +70,15 @@ namespace HeaderTool
 			const FSpecifier* ExposeOnSpawn = Property.Specifiers.FindMeta("ExposeOnSpawn");
 			if (ExposeOnSpawn)
 			{
-				Context.Error(ExposeOnSpawn->Location, "ExposeOnSpawn needs a property that graphs see: write BlueprintReadWrite");
+				Context.Error(
+					ExposeOnSpawn->Location, "ExposeOnSpawn needs a property that graphs see: write BlueprintReadWrite");
 			}
 			return;
 		}
 		if (Property.Access == EAccess::Private && !Property.Specifiers.HasMeta("AllowPrivateAccess"))
 		{
-			Context.Error(Property.Location, "'" + Property.Name + "' is private: graphs see it only with meta=(AllowPrivateAccess=\"true\")");
+			Context.Error(Property.Location,
+				"'" + Property.Name + "' is private: graphs see it only with meta=(AllowPrivateAccess=\"true\")");
 		}
 		if (Property.Type.bArray)
 		{
@@ -86,8 +94,8 @@ namespace HeaderTool
 
 	static void CheckContradictions(const FCheckContext& Context, const FProperty& Property)
 	{
-		static constexpr std::string_view EditSpecifiers[] = {
-			"EditAnywhere", "EditDefaultsOnly", "EditInstanceOnly", "VisibleAnywhere", "VisibleDefaultsOnly", "VisibleInstanceOnly"};
+		static constexpr std::string_view EditSpecifiers[] = {"EditAnywhere", "EditDefaultsOnly", "EditInstanceOnly",
+			"VisibleAnywhere", "VisibleDefaultsOnly", "VisibleInstanceOnly"};
 		std::string First;
 		for (const std::string_view Name : EditSpecifiers)
 		{
@@ -97,13 +105,15 @@ namespace HeaderTool
 			}
 			if (!First.empty())
 			{
-				Context.Error(Property.Location, "'" + Property.Name + "': '" + First + "' and '" + std::string(Name) + "' contradict each other: take one away");
+				Context.Error(Property.Location, "'" + Property.Name + "': '" + First + "' and '" + std::string(Name) +
+													 "' contradict each other: take one away");
 			}
 			First = Name;
 		}
 		if (Property.Specifiers.Has("BlueprintReadOnly") && Property.Specifiers.Has("BlueprintReadWrite"))
 		{
-			Context.Error(Property.Location, "'" + Property.Name + "': 'BlueprintReadOnly' and 'BlueprintReadWrite' contradict each other: take one away");
+			Context.Error(Property.Location,
+				"'" + Property.Name + "': 'BlueprintReadOnly' and 'BlueprintReadWrite' contradict each other: take one away");
 		}
 	}
 
@@ -113,7 +123,9 @@ namespace HeaderTool
 		{
 			if (Property.Specifiers.Has(Name) && Property.Type.Kind != ETypeKind::MulticastDelegate)
 			{
-				Context.Error(Property.Location, "'" + Property.Name + "': '" + std::string(Name) + "' goes on dynamic multicast delegates only (DECLARE_DYNAMIC_MULTICAST_DELEGATE)");
+				Context.Error(
+					Property.Location, "'" + Property.Name + "': '" + std::string(Name) +
+										   "' goes on dynamic multicast delegates only (DECLARE_DYNAMIC_MULTICAST_DELEGATE)");
 			}
 		}
 	}
@@ -133,8 +145,9 @@ namespace HeaderTool
 		const std::string BitmaskEnum = Specifiers.GetMeta("BitmaskEnum");
 		if (Specifiers.HasMeta("BitmaskEnum") && !BitmaskEnum.starts_with("/Script/"))
 		{
-			Context.Error(Property.Location, "'" + Property.Name + "': BitmaskEnum takes a full path: write BitmaskEnum=\"/Script/" + Context.Module.Name + "."
-				+ (BitmaskEnum.empty() ? "EFlags" : BitmaskEnum) + "\"");
+			Context.Error(
+				Property.Location, "'" + Property.Name + "': BitmaskEnum takes a full path: write BitmaskEnum=\"/Script/" +
+									   Context.Module.Name + "." + (BitmaskEnum.empty() ? "EFlags" : BitmaskEnum) + "\"");
 		}
 		for (const std::string_view Key : {"BindWidget", "BindWidgetOptional", "BindWidgetAnim", "BindWidgetAnimOptional"})
 		{
@@ -144,14 +157,18 @@ namespace HeaderTool
 			}
 			if (!IsObjectReference(Type))
 			{
-				Context.Error(Property.Location, "'" + Property.Name + "': " + std::string(Key) + " goes on an object pointer (TObjectPtr)");
+				Context.Error(Property.Location,
+					"'" + Property.Name + "': " + std::string(Key) + " goes on an object pointer (TObjectPtr)");
 			}
 			if (Key.starts_with("BindWidgetAnim") && !Specifiers.Has("Transient"))
 			{
-				Context.Error(Property.Location, "'" + Property.Name + "': " + std::string(Key) + " needs the specifier Transient");
+				Context.Error(
+					Property.Location, "'" + Property.Name + "': " + std::string(Key) + " needs the specifier Transient");
 			}
 		}
-		const bool bHoldsObjects = IsObjectReference(Type) || (!Type.Arguments.empty() && (IsObjectReference(Type.Arguments[0]) || IsObjectReference(Type.Arguments.back())));
+		const bool bHoldsObjects =
+			IsObjectReference(Type) ||
+			(!Type.Arguments.empty() && (IsObjectReference(Type.Arguments[0]) || IsObjectReference(Type.Arguments.back())));
 		if (Specifiers.Has("Instanced") && !bHoldsObjects && Type.Kind != ETypeKind::Unsupported)
 		{
 			Context.Error(Property.Location, "'" + Property.Name + "': Instanced goes on object pointers");
@@ -168,10 +185,12 @@ namespace HeaderTool
 				continue;
 			}
 			const std::string Function = Accessor->Value.value_or("");
-			const bool bFound = std::any_of(Class.Functions.begin(), Class.Functions.end(), [&](const FFunction& Candidate) { return Candidate.Name == Function; });
+			const bool bFound = std::any_of(Class.Functions.begin(), Class.Functions.end(),
+				[&](const FFunction& Candidate) { return Candidate.Name == Function; });
 			if (!bFound)
 			{
-				Context.Error(Accessor->Location, "'" + Property.Name + "': " + std::string(Name) + " names '" + Function + "', which is no UFUNCTION() of " + Class.Name);
+				Context.Error(Accessor->Location, "'" + Property.Name + "': " + std::string(Name) + " names '" + Function +
+													  "', which is no UFUNCTION() of " + Class.Name);
 			}
 		}
 	}
@@ -182,7 +201,9 @@ namespace HeaderTool
 		{
 			if (std::find(Base->Properties.begin(), Base->Properties.end(), Property.Name) != Base->Properties.end())
 			{
-				Context.Error(Property.Location, "'" + Property.Name + "' hides the property of that name in a base class: rename it, or use the inherited one");
+				Context.Error(Property.Location,
+					"'" + Property.Name +
+						"' hides the property of that name in a base class: rename it, or use the inherited one");
 			}
 		}
 	}
@@ -199,4 +220,4 @@ namespace HeaderTool
 		CheckAccessorNames(Context, Class, Property);
 		CheckName(Context, Class, Property);
 	}
-}
+} // namespace HeaderTool

@@ -72,7 +72,9 @@ namespace HeaderTool
 		return Offset;
 	}
 
-	FSourceFile::FSourceFile(std::string InPath, std::string InText) : Path(std::move(InPath)), Text(std::move(InText))
+	FSourceFile::FSourceFile(std::string InPath, std::string InText)
+		: Path(std::move(InPath))
+		, Text(std::move(InText))
 	{
 		Scan();
 	}
@@ -123,7 +125,8 @@ namespace HeaderTool
 		std::string Result;
 		for (size_t Index = 0; Index < Expression.size(); ++Index)
 		{
-			const bool bComment = Expression[Index] == '/' && Index + 1 < Expression.size() && (Expression[Index + 1] == '/' || Expression[Index + 1] == '*');
+			const bool bComment = Expression[Index] == '/' && Index + 1 < Expression.size() &&
+								  (Expression[Index + 1] == '/' || Expression[Index + 1] == '*');
 			if (bComment)
 			{
 				break;
@@ -335,4 +338,4 @@ namespace HeaderTool
 		}
 		return Result;
 	}
-}
+} // namespace HeaderTool

@@ -50,7 +50,8 @@ namespace HeaderTool
 
 		const std::vector<FInclude>& GetIncludes() const { return Includes; }
 
-		/** Offset of the first character at or after Offset that is neither blank nor comment; the size of the text at its end. */
+		/** Offset of the first character at or after Offset that is neither blank nor comment; the size of the text at its end.
+		 */
 		size_t SkipBlank(size_t Offset) const;
 
 	private:
@@ -83,4 +84,4 @@ namespace HeaderTool
 
 	/** Arguments of a macro call: parts between commas outside of parentheses, without blanks at the ends. */
 	std::vector<std::string> SplitMacroArguments(std::string_view Text);
-}
+} // namespace HeaderTool

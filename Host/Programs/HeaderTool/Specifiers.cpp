@@ -13,7 +13,8 @@ namespace HeaderTool
 
 	static const FSpecifier* FindIn(const std::vector<FSpecifier>& Entries, std::string_view Key)
 	{
-		const auto Found = std::find_if(Entries.begin(), Entries.end(), [&](const FSpecifier& Entry) { return EqualsIgnoreCase(Entry.Key, Key); });
+		const auto Found = std::find_if(
+			Entries.begin(), Entries.end(), [&](const FSpecifier& Entry) { return EqualsIgnoreCase(Entry.Key, Key); });
 		return Found == Entries.end() ? nullptr : &*Found;
 	}
 
@@ -54,7 +55,10 @@ namespace HeaderTool
 		{
 		public:
 			FReader(const FSourceFile& InFile, std::string_view InText, size_t InOffset, FDiagnostics& InDiagnostics)
-				: File(InFile), Text(InText), Offset(InOffset), Diagnostics(InDiagnostics)
+				: File(InFile)
+				, Text(InText)
+				, Offset(InOffset)
+				, Diagnostics(InDiagnostics)
 			{
 			}
 
@@ -144,7 +148,8 @@ namespace HeaderTool
 					return ReadString(Out);
 				}
 				const size_t Start = Cursor;
-				while (Cursor < Text.size() && (std::isalnum(static_cast<unsigned char>(Text[Cursor])) || std::string_view("_.:|/").find(Text[Cursor]) != std::string_view::npos))
+				while (Cursor < Text.size() && (std::isalnum(static_cast<unsigned char>(Text[Cursor])) ||
+												   std::string_view("_.:|/").find(Text[Cursor]) != std::string_view::npos))
 				{
 					++Cursor;
 				}
@@ -237,7 +242,7 @@ namespace HeaderTool
 			int Depth = 0;
 			bool bFailed = false;
 		};
-	}
+	} // namespace
 
 	FSpecifiers ReadSpecifiers(const FSourceFile& File, size_t MacroOffset, FDiagnostics& Diagnostics)
 	{
@@ -263,4 +268,4 @@ namespace HeaderTool
 		}
 		return Result;
 	}
-}
+} // namespace HeaderTool

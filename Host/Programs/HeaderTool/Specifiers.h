@@ -39,4 +39,4 @@ namespace HeaderTool
 
 	/** The value as metadata: "true" for a bare key; entries in parentheses joined by blanks. */
 	std::string GetValueText(const FSpecifier& Specifier);
-}
+} // namespace HeaderTool

@@ -28,13 +28,15 @@ namespace HeaderTool
 		return Result + "\n";
 	}
 
-	static bool WriteOutputs(const FOptions& Options, const FModule& Module, const FTranslationUnit& Unit, FDiagnostics& Diagnostics)
+	static bool WriteOutputs(
+		const FOptions& Options, const FModule& Module, const FTranslationUnit& Unit, FDiagnostics& Diagnostics)
 	{
 		const std::string ModulePath = Options.OutputDir + "/" + Module.Name + ".gen.cpp";
 		std::vector<std::pair<std::string, std::string>> Outputs = {{ModulePath, WriteModule(Module)}};
 		for (const FHeader& Header : Module.Headers)
 		{
-			Outputs.emplace_back(Options.OutputDir + "/" + GetBaseName(Header.File->GetPath()) + ".generated.h", WriteGeneratedHeader(Module, Header));
+			Outputs.emplace_back(Options.OutputDir + "/" + GetBaseName(Header.File->GetPath()) + ".generated.h",
+				WriteGeneratedHeader(Module, Header));
 		}
 		if (!Options.Depfile.empty())
 		{
@@ -73,4 +75,4 @@ namespace HeaderTool
 		OutMessages = Diagnostics.Format();
 		return Diagnostics.HasErrors() ? 1 : 0;
 	}
-}
+} // namespace HeaderTool

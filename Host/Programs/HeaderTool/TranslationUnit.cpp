@@ -50,7 +50,8 @@ namespace HeaderTool
 
 	static std::vector<std::string> MakeCompilerArguments(const FOptions& Options)
 	{
-		std::vector<std::string> Result = {"-x", "c++", "-std=c++20", "-fno-rtti", "-w", "-ferror-limit=200", "-DHEADER_TOOL=1", "-I" + Options.OutputDir};
+		std::vector<std::string> Result = {
+			"-x", "c++", "-std=c++20", "-fno-rtti", "-w", "-ferror-limit=200", "-DHEADER_TOOL=1", "-I" + Options.OutputDir};
 		for (const std::string& Dir : Options.IncludeDirs)
 		{
 			Result.push_back("-I" + Dir);
@@ -88,8 +89,9 @@ namespace HeaderTool
 			Pointers.push_back(Argument.c_str());
 		}
 		Index = clang_createIndex(0, 0);
-		const CXErrorCode Error = clang_parseTranslationUnit2(Index, UmbrellaName, Pointers.data(), static_cast<int>(Pointers.size()), Files.data(),
-			static_cast<unsigned>(Files.size()), CXTranslationUnit_SkipFunctionBodies | CXTranslationUnit_KeepGoing, &Unit);
+		const CXErrorCode Error =
+			clang_parseTranslationUnit2(Index, UmbrellaName, Pointers.data(), static_cast<int>(Pointers.size()), Files.data(),
+				static_cast<unsigned>(Files.size()), CXTranslationUnit_SkipFunctionBodies | CXTranslationUnit_KeepGoing, &Unit);
 		if (Error != CXError_Success || !Unit)
 		{
 			Diagnostics.Error({Options.Module, 0}, "the headers could not be parsed");
@@ -105,8 +107,8 @@ namespace HeaderTool
 	 */
 	static bool FollowsFromMissingCode(const std::string& Message)
 	{
-		return Message.find("'override'") != std::string::npos || Message.find("'Super'") != std::string::npos
-			|| Message.find("'ThisClass'") != std::string::npos;
+		return Message.find("'override'") != std::string::npos || Message.find("'Super'") != std::string::npos ||
+			   Message.find("'ThisClass'") != std::string::npos;
 	}
 
 	void FTranslationUnit::ReportErrors(FDiagnostics& Diagnostics) const
@@ -130,11 +132,12 @@ namespace HeaderTool
 		std::vector<std::string> Result;
 		clang_getInclusions(
 			Unit,
-			[](CXFile File, CXSourceLocation*, unsigned, CXClientData Data) { static_cast<std::vector<std::string>*>(Data)->push_back(GetPath(File)); },
+			[](CXFile File, CXSourceLocation*, unsigned, CXClientData Data)
+			{ static_cast<std::vector<std::string>*>(Data)->push_back(GetPath(File)); },
 			&Result);
 		std::erase_if(Result, [&](const std::string& Path) { return Path == UmbrellaName || Path.starts_with(OutputDir + "/"); });
 		std::sort(Result.begin(), Result.end());
 		Result.erase(std::unique(Result.begin(), Result.end()), Result.end());
 		return Result;
 	}
-}
+} // namespace HeaderTool

@@ -30,4 +30,4 @@ namespace HeaderTool
 		CXTranslationUnit Unit = nullptr;
 		std::string OutputDir;
 	};
-}
+} // namespace HeaderTool

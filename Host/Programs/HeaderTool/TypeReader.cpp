@@ -65,7 +65,8 @@ namespace HeaderTool
 		{"TAttribute", "TAttribute cannot be reflected: take the macro off"},
 		{"TStrongObjectPtr", "TStrongObjectPtr cannot be reflected: use TObjectPtr, which keeps the object alive as a UPROPERTY"},
 		{"TDelegate", "a native delegate cannot be reflected: declare it with DECLARE_DYNAMIC_DELEGATE, or take the macro off"},
-		{"TMulticastDelegate", "a native multicast delegate cannot be reflected: declare it with DECLARE_DYNAMIC_MULTICAST_DELEGATE, or take the macro off"},
+		{"TMulticastDelegate", "a native multicast delegate cannot be reflected: declare it with "
+							   "DECLARE_DYNAMIC_MULTICAST_DELEGATE, or take the macro off"},
 		{"TStaticArray", "TStaticArray cannot be reflected: use TArray"},
 		{"TArrayView", "TArrayView cannot be reflected: use TArray"},
 	};
@@ -152,17 +153,22 @@ namespace HeaderTool
 
 	void FTypeReader::ReadScalar(CXType Canonical, FType& Out)
 	{
-		const auto Found = std::find_if(std::begin(Scalars), std::end(Scalars), [&](const FScalar& Scalar) { return Scalar.Clang == Canonical.kind; });
+		const auto Found = std::find_if(
+			std::begin(Scalars), std::end(Scalars), [&](const FScalar& Scalar) { return Scalar.Clang == Canonical.kind; });
 		if (Found != std::end(Scalars))
 		{
 			Out.Kind = Found->Kind;
 			return;
 		}
-		const bool bCharacter = Canonical.kind == CXType_Char_S || Canonical.kind == CXType_Char_U || Canonical.kind == CXType_WChar
-			|| Canonical.kind == CXType_Char16 || Canonical.kind == CXType_Char32;
-		Out.Complaint = bCharacter ? "characters cannot be reflected: use uint8, or FString for text"
-								   : "'" + Out.Written + "' cannot be reflected: use a number, string, enumeration, USTRUCT, object pointer, dynamic delegate, "
-									   "or TArray, TSet or TMap of them";
+		const bool bCharacter = Canonical.kind == CXType_Char_S || Canonical.kind == CXType_Char_U ||
+								Canonical.kind == CXType_WChar || Canonical.kind == CXType_Char16 ||
+								Canonical.kind == CXType_Char32;
+		Out.Complaint =
+			bCharacter
+				? "characters cannot be reflected: use uint8, or FString for text"
+				: "'" + Out.Written +
+					  "' cannot be reflected: use a number, string, enumeration, USTRUCT, object pointer, dynamic delegate, "
+					  "or TArray, TSet or TMap of them";
 	}
 
 	void FTypeReader::ReadPointer(CXType Canonical, FType& Out)
@@ -179,9 +185,12 @@ namespace HeaderTool
 		const bool bObject = HasObjectPrefix(Out.Target) && (Out.bIncompleteTarget || IsReflectedClass(Declaration));
 		if (!bObject)
 		{
-			const bool bInterface = Out.Target.size() > 1 && Out.Target[0] == 'I' && std::isupper(static_cast<unsigned char>(Out.Target[1]));
-			Out.Complaint = bInterface ? "an interface is held in TScriptInterface<" + Out.Target + ">, not by pointer"
-									   : "'" + Out.Written + "' cannot be reflected: a structure is held by value, and only classes with UCLASS() by pointer";
+			const bool bInterface =
+				Out.Target.size() > 1 && Out.Target[0] == 'I' && std::isupper(static_cast<unsigned char>(Out.Target[1]));
+			Out.Complaint =
+				bInterface ? "an interface is held in TScriptInterface<" + Out.Target + ">, not by pointer"
+						   : "'" + Out.Written +
+								 "' cannot be reflected: a structure is held by value, and only classes with UCLASS() by pointer";
 			return;
 		}
 		Out.Kind = Out.Target == "UClass" ? ETypeKind::Class : ETypeKind::Object;
@@ -224,7 +233,8 @@ namespace HeaderTool
 				continue;
 			}
 			const CXType Base = clang_getCursorType(Child);
-			if (DerivesFrom(clang_getTypeDeclaration(Base), TemplateName) || GetSpelling(Base).starts_with(std::string(TemplateName) + "<"))
+			if (DerivesFrom(clang_getTypeDeclaration(Base), TemplateName) ||
+				GetSpelling(Base).starts_with(std::string(TemplateName) + "<"))
 			{
 				return true;
 			}
@@ -264,11 +274,13 @@ namespace HeaderTool
 		}
 		if (HasObjectPrefix(Name))
 		{
-			Out.Complaint = "an object is held by pointer: write TObjectPtr<" + Name + "> for a member, " + Name + "* for a parameter";
+			Out.Complaint =
+				"an object is held by pointer: write TObjectPtr<" + Name + "> for a member, " + Name + "* for a parameter";
 		}
 		else if (Out.Cpp.starts_with("std::"))
 		{
-			Out.Complaint = "'" + Out.Written + "' cannot be reflected: use the engine's own types, such as FString, TArray, TMap";
+			Out.Complaint =
+				"'" + Out.Written + "' cannot be reflected: use the engine's own types, such as FString, TArray, TMap";
 		}
 		else if (clang_Cursor_isNull(clang_getCursorDefinition(Declaration)) && clang_Type_getNumTemplateArguments(Canonical) < 1)
 		{
@@ -309,7 +321,8 @@ namespace HeaderTool
 			Out.Target = Inner.Target;
 			Out.EnumSize = 1;
 			Out.Kind = Inner.Kind == ETypeKind::PlainEnum ? ETypeKind::EnumAsByte : ETypeKind::Unsupported;
-			Out.Complaint = Inner.Kind == ETypeKind::EnumClass ? "an enum class is written directly, without TEnumAsByte" : Inner.Complaint;
+			Out.Complaint =
+				Inner.Kind == ETypeKind::EnumClass ? "an enum class is written directly, without TEnumAsByte" : Inner.Complaint;
 			return true;
 		}
 		if (Name == "TArray" || Name == "TSet" || Name == "TMap")
@@ -317,7 +330,8 @@ namespace HeaderTool
 			const ETypeKind Kind = Name == "TArray" ? ETypeKind::Array : Name == "TSet" ? ETypeKind::Set : ETypeKind::Map;
 			// Elements keep the names that the header gives them where its own words can be had.
 			const int NumArguments = Kind == ETypeKind::Map ? 2 : 1;
-			ReadContainer(Kind, clang_Type_getNumTemplateArguments(Written) >= NumArguments ? Written : Canonical, NumArguments, Out);
+			ReadContainer(
+				Kind, clang_Type_getNumTemplateArguments(Written) >= NumArguments ? Written : Canonical, NumArguments, Out);
 			return true;
 		}
 		return false;
@@ -329,7 +343,8 @@ namespace HeaderTool
 		for (int Index = 0; Index < NumArguments; ++Index)
 		{
 			FType Inner = Read(clang_Type_getTemplateArgumentAsType(Type, static_cast<unsigned>(Index)));
-			const bool bContainer = Inner.Kind == ETypeKind::Array || Inner.Kind == ETypeKind::Set || Inner.Kind == ETypeKind::Map;
+			const bool bContainer =
+				Inner.Kind == ETypeKind::Array || Inner.Kind == ETypeKind::Set || Inner.Kind == ETypeKind::Map;
 			if (bContainer)
 			{
 				Out.Kind = ETypeKind::Unsupported;
@@ -370,12 +385,14 @@ namespace HeaderTool
 		Out.Target = GetUnqualifiedSpelling(clang_getCanonicalType(Argument));
 		Out.bIncompleteTarget = clang_Cursor_isNull(clang_getCursorDefinition(Declaration)) != 0;
 		const bool bInterface = Name.size() > 1 && Name[0] == 'I' && std::isupper(static_cast<unsigned char>(Name[1]));
-		const bool bWanted = Kind == ETypeKind::Interface ? bInterface : HasObjectPrefix(Name) || (bInterface && Kind == ETypeKind::SubclassOf);
+		const bool bWanted =
+			Kind == ETypeKind::Interface ? bInterface : HasObjectPrefix(Name) || (bInterface && Kind == ETypeKind::SubclassOf);
 		if (!bWanted || (!Out.bIncompleteTarget && !IsReflectedClass(Declaration)))
 		{
-			Out.Complaint = Kind == ETypeKind::Interface ? "TScriptInterface takes the I class of an interface" : "'" + Out.Written + "' takes a class with UCLASS()";
+			Out.Complaint = Kind == ETypeKind::Interface ? "TScriptInterface takes the I class of an interface"
+														 : "'" + Out.Written + "' takes a class with UCLASS()";
 			return;
 		}
 		Out.Kind = Kind == ETypeKind::ObjectPtr && Out.Target == "UClass" ? ETypeKind::Class : Kind;
 	}
-}
+} // namespace HeaderTool

@@ -39,4 +39,4 @@ namespace HeaderTool
 
 	/** True when a type names an object class by its prefix; all that is known of a forward declaration. */
 	bool HasObjectPrefix(const std::string& Name);
-}
+} // namespace HeaderTool

@@ -11,12 +11,14 @@ FVector2D UReflectionTestObject::MakeVector(double X, double Y, FVector2D Offset
 	return FVector2D(X, Y) + Offset;
 }
 
-FString UReflectionTestObject::Greet_Implementation(const FString& Name, FReflectionTestStruct Style, TSubclassOf<UObject> Kind) const
+FString UReflectionTestObject::Greet_Implementation(
+	const FString& Name, FReflectionTestStruct Style, TSubclassOf<UObject> Kind) const
 {
 	return Style.Text + TEXT(" ") + Name + (Kind ? TEXT("!") : TEXT("?"));
 }
 
-FString UReflectionTestDerived::Greet_Implementation(const FString& Name, FReflectionTestStruct Style, TSubclassOf<UObject> Kind) const
+FString UReflectionTestDerived::Greet_Implementation(
+	const FString& Name, FReflectionTestStruct Style, TSubclassOf<UObject> Kind) const
 {
 	return TEXT("derived ") + Super::Greet_Implementation(Name, Style, Kind);
 }

@@ -235,6 +235,20 @@ namespace Host
 		return FIterator(Document, NoJsonNode);
 	}
 
+	namespace
+	{
+		bool ParseSource(FJsonContent& Content, const FJsonLimits& Limits)
+		{
+			FJsonReader Reader(Content, Limits);
+			if (!Reader.Read())
+			{
+				Content.Values.clear();
+				return false;
+			}
+			return true;
+		}
+	}
+
 	FJsonDocument::FJsonDocument()
 		: Content(std::make_unique<FJsonContent>())
 	{
@@ -254,7 +268,7 @@ namespace Host
 			Content->Errors.Add(FString::Printf(TEXT("%s: %s"), *Filename, *Reason));
 			return false;
 		}
-		return ParseSource(Limits);
+		return ParseSource(*Content, Limits);
 	}
 
 	bool FJsonDocument::Parse(const FString& Text, const FString& Name, const FJsonLimits& Limits)
@@ -273,18 +287,7 @@ namespace Host
 			return false;
 		}
 		Content->Source.Append(static_cast<const uint8*>(Bytes), int32(Size));
-		return ParseSource(Limits);
-	}
-
-	bool FJsonDocument::ParseSource(const FJsonLimits& Limits)
-	{
-		FJsonReader Reader(*Content, Limits);
-		if (!Reader.Read())
-		{
-			Content->Values.clear();
-			return false;
-		}
-		return true;
+		return ParseSource(*Content, Limits);
 	}
 
 	FJsonNode FJsonDocument::GetRoot() const

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstring>
 #include <functional>
 #include <string_view>
 
@@ -164,16 +163,19 @@ namespace Host
 		Content.Texts.push_back(u'\0');
 	}
 
-	bool FJsonReader::Read(const char* InText, SIZE_T InSize)
+	bool FJsonReader::StartsWithMark(const TArray<uint8>& Source)
 	{
-		static constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-		Text = InText;
-		Size = InSize;
-		if (std::string_view(Text, Size).starts_with(ByteOrderMark))
-		{
-			Text += ByteOrderMark.size();
-			Size -= ByteOrderMark.size();
-		}
+		return Source.Num() >= int32(MarkLength) && Source[0] == 0xEF && Source[1] == 0xBB && Source[2] == 0xBF;
+	}
+
+	bool FJsonReader::Read()
+	{
+		TextStart = StartsWithMark(Content.Source) ? MarkLength : 0;
+		Text = reinterpret_cast<const char*>(Content.Source.GetData()) + TextStart;
+		Size = SIZE_T(Content.Source.Num()) - TextStart;
+		// Most texts have fewer values than this; room that stays unused costs nothing.
+		Content.Values.reserve(std::min<SIZE_T>(Size / 8 + 1, SIZE_T(Limits.MaxNodes)));
+		Content.Texts.reserve(Size / 2);
 
 		constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag;
 		rapidjson::MemoryStream Stream(Text, Size);
@@ -193,31 +195,16 @@ namespace Host
 		return !Result.IsError();
 	}
 
-	void FJsonReader::StepTo(SIZE_T Target)
-	{
-		for (; Offset < Target; ++Offset)
-		{
-			if (Text[Offset] == '\n')
-			{
-				++Line;
-				Column = 1;
-			}
-			else if ((Text[Offset] & 0xC0) != 0x80)
-			{
-				++Column;
-			}
-		}
-	}
-
 	void FJsonReader::StepToToken()
 	{
-		SIZE_T Start = Offset;
-		while (Start < Size && std::strchr(" \t\r\n,:", Text[Start]) != nullptr && Text[Start] != '\0')
+		for (; Offset < Size; ++Offset)
 		{
-			++Start;
+			const char Byte = Text[Offset];
+			if (Byte != ' ' && Byte != '\n' && Byte != '\t' && Byte != '\r' && Byte != ',' && Byte != ':')
+			{
+				return;
+			}
 		}
-		StepTo(Start);
-		TokenStart = Start;
 	}
 
 	bool FJsonReader::CheckText(const char16_t* InText, SIZE_T Length)
@@ -241,8 +228,7 @@ namespace Host
 	void FJsonReader::SetKey(const char16_t* InText, SIZE_T Length, SIZE_T EndOffset)
 	{
 		PendingKey = AddText(InText, Length);
-		StepToToken();
-		StepTo(EndOffset);
+		Offset = EndOffset;
 	}
 
 	FJsonValue* FJsonReader::AddValue(EJsonKind Kind, SIZE_T EndOffset)
@@ -256,8 +242,7 @@ namespace Host
 		const uint32 Index = uint32(Content.Values.size());
 		FJsonValue& Value = Content.Values.emplace_back();
 		Value.Kind = Kind;
-		Value.Line = Line;
-		Value.Column = Column;
+		Value.Offset = TextStart + uint32(Offset);
 		Value.Key = PendingKey;
 		PendingKey = FJsonText();
 		if (!OpenValues.empty())
@@ -268,7 +253,8 @@ namespace Host
 			Parent.LastChild = Index;
 			++Children.Count;
 		}
-		StepTo(EndOffset);
+		ValueStart = Offset;
+		Offset = EndOffset;
 		return &Value;
 	}
 
@@ -280,7 +266,7 @@ namespace Host
 			return false;
 		}
 		// The parser checks the form alone: its own conversion is not exact to the last bit.
-		const char* const First = Text + TokenStart;
+		const char* const First = Text + ValueStart;
 		const char* const Last = Text + EndOffset;
 		if (IsWhole(First, Last, Value->Signed))
 		{
@@ -298,7 +284,12 @@ namespace Host
 			return true;
 		}
 		Value->Floating = 0.0;
-		return !IsHuge(std::string_view(First, Last)) || Refuse(TEXT("the number is too large"));
+		if (!IsHuge(std::string_view(First, Last)))
+		{
+			return true;
+		}
+		Offset = ValueStart;
+		return Refuse(TEXT("the number is too large"));
 	}
 
 	bool FJsonReader::Open(EJsonKind Kind, SIZE_T EndOffset)
@@ -320,7 +311,7 @@ namespace Host
 
 	void FJsonReader::Close(SIZE_T EndOffset)
 	{
-		StepTo(EndOffset);
+		Offset = EndOffset;
 		const uint32 Index = OpenValues.back().Index;
 		OpenValues.pop_back();
 		if (Content.Values[Index].Kind == EJsonKind::Object)
@@ -370,7 +361,7 @@ namespace Host
 			if (std::ranges::binary_search(Dropped, *Link))
 			{
 				const std::u16string Key(GetKey(*Link));
-				Content.Errors.Add(FString::Printf(TEXT("%s:%u:%u: there is a member \"%s\" already, this one is left out"), *Content.Name, Value.Line, Value.Column, Key.c_str()));
+				Content.Errors.Add(FString::Printf(TEXT("%s: there is a member \"%s\" already, this one is left out"), *DescribePlace(Value.Offset), Key.c_str()));
 				*Link = Value.NextSibling;
 				--Content.Values[ObjectIndex].Children.Count;
 			}
@@ -381,10 +372,16 @@ namespace Host
 		}
 	}
 
+	FString FJsonReader::DescribePlace(SIZE_T SourceOffset) const
+	{
+		const FJsonPlace Place = Content.FindPlace(uint32(SourceOffset));
+		return FString::Printf(TEXT("%s:%d:%d"), *Content.Name, Place.Line, Place.Column);
+	}
+
 	bool FJsonReader::Refuse(const TCHAR* Reason)
 	{
 		bRefused = true;
-		Content.Errors.Add(FString::Printf(TEXT("%s:%u:%u: %s"), *Content.Name, Line, Column, Reason));
+		Content.Errors.Add(FString::Printf(TEXT("%s: %s"), *DescribePlace(TextStart + Offset), Reason));
 		return false;
 	}
 
@@ -409,8 +406,7 @@ namespace Host
 
 	void FJsonReader::ReportSyntaxError(int32 Code, SIZE_T At)
 	{
-		// Where the parser stopped lies at or behind the last token counted.
-		StepTo(std::min(At, Size));
+		Offset = std::min(At, Size);
 		const TCHAR* Expected = nullptr;
 		switch (Code)
 		{

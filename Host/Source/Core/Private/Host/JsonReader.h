@@ -10,8 +10,12 @@ namespace Host
 	public:
 		FJsonReader(FJsonContent& InContent, const FJsonLimits& InLimits);
 
-		/** Returns false, with an error in the content, when the text is refused. */
-		bool Read(const char* InText, SIZE_T InSize);
+		/** Reads the content's source. Returns false, with an error in the content, when the text is refused. */
+		bool Read();
+
+		/** Length of the byte order mark of UTF-8. */
+		static constexpr uint32 MarkLength = 3;
+		static bool StartsWithMark(const TArray<uint8>& Source);
 
 	private:
 		friend struct FJsonEvents;
@@ -43,24 +47,26 @@ namespace Host
 		void DropDuplicates(uint32 ObjectIndex);
 		std::u16string_view GetKey(uint32 Index) const;
 
-		/** Moves on to the start of the token that comes next, counting lines and columns. */
+		/** Moves on to the start of the token that comes next. */
 		void StepToToken();
-		void StepTo(SIZE_T Offset);
+		FString DescribePlace(SIZE_T SourceOffset) const;
+		/** Adds an error at the place reached. Returns false. */
 		bool Refuse(const TCHAR* Reason);
-		void ReportSyntaxError(int32 Code, SIZE_T Offset);
-		FString DescribeFound(SIZE_T Offset) const;
+		void ReportSyntaxError(int32 Code, SIZE_T At);
+		FString DescribeFound(SIZE_T At) const;
 
 		FJsonContent& Content;
 		const FJsonLimits Limits;
 		const char* Text = nullptr;
 		SIZE_T Size = 0;
 
-		// How far places are known: everything before it has been counted.
+		/** Where the text lies in the source. */
+		uint32 TextStart = 0;
+
+		/** How far the text has been read: the end of the last token, or the start of the next. */
 		SIZE_T Offset = 0;
-		uint32 Line = 1;
-		uint32 Column = 1;
-		/** Where the token that was stepped to last starts. */
-		SIZE_T TokenStart = 0;
+		/** Where the last value starts. */
+		SIZE_T ValueStart = 0;
 
 		std::vector<FOpen> OpenValues;
 		FJsonText PendingKey;

@@ -21,7 +21,6 @@ namespace Host
 
 	private:
 		class FScope;
-		class FKeyScope;
 
 		bool ReadCArray(const FJsonNode& Node, const FProperty& Property, void* Value);
 		bool ReadBool(const FJsonNode& Node, const FBoolProperty& Property, void* Value);
@@ -52,6 +51,28 @@ namespace Host
 		/** Way to the value being read, "Style.Colors[2]". */
 		FString Path;
 		int32 NumMessages = 0;
+	};
+
+	/** Extends the way to the value for as long as it lives. */
+	class FPropertyJsonReader::FScope
+	{
+	public:
+		FScope(FPropertyJsonReader& InReader, const FString& Part) : Path(InReader.Path), OldLength(Path.Len())
+		{
+			if (!Path.IsEmpty() && !Part.StartsWith(TEXT("[")))
+			{
+				Path.AppendChar(TEXT('.'));
+			}
+			Path += Part;
+		}
+		FScope(FPropertyJsonReader& InReader, int32 Index) : FScope(InReader, FString::Printf(TEXT("[%d]"), Index)) {}
+		FScope(const FScope&) = delete;
+		FScope& operator=(const FScope&) = delete;
+		~FScope() { Path.LeftInline(OldLength); }
+
+	private:
+		FString& Path;
+		int32 OldLength;
 	};
 
 	/** The reader added for a structure; null when there is none. */

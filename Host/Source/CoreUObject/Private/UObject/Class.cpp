@@ -7,9 +7,15 @@
 
 uint32 UClass::FunctionsVersion = 1;
 
-UClass::UClass(const FObjectInitializer& ObjectInitializer) : UStruct(ObjectInitializer) {}
+UClass::UClass(const FObjectInitializer& ObjectInitializer)
+	: UStruct(ObjectInitializer)
+{
+}
 
-UClass::UClass(EStaticConstructor, EObjectFlags InFlags) : UStruct(EC_StaticConstructor, InFlags) {}
+UClass::UClass(EStaticConstructor, EObjectFlags InFlags)
+	: UStruct(EC_StaticConstructor, InFlags)
+{
+}
 
 void UClass::SetSuperStruct(UStruct* NewSuperStruct)
 {
@@ -44,7 +50,10 @@ UObject* UClass::CreateDefaultObject()
 	Params.Name = GetDefaultObjectName();
 	Params.SetFlags = RF_Public | RF_ClassDefaultObject | RF_ArchetypeObject;
 	// PostInitProperties may ask for the default object already.
-	const TFunction<void()> Remember = [this, &Params] { ClassDefaultObject = StaticFindObjectFast(this, Params.Outer, Params.Name, true); };
+	const TFunction<void()> Remember = [this, &Params]
+	{
+		ClassDefaultObject = StaticFindObjectFast(this, Params.Outer, Params.Name, true);
+	};
 	Params.PropertyInitCallback = &Remember;
 	ClassDefaultObject = StaticConstructObject_Internal(Params);
 	return ClassDefaultObject;
@@ -171,9 +180,10 @@ UClass* UClass::GetNativeClass()
 static void MarkInstanced(FProperty* Property, FProperty* Member)
 {
 	const FObjectProperty* ObjectProperty = CastField<FObjectProperty>(Property);
-	const bool bInstanced = ObjectProperty && !Property->IsA<FClassProperty>()
-		&& (Property->HasAnyPropertyFlags(CPF_InstancedReference | CPF_PersistentInstance)
-			|| (ObjectProperty->PropertyClass && ObjectProperty->PropertyClass->HasAnyClassFlags(CLASS_DefaultToInstanced)));
+	const bool bInstanced =
+		ObjectProperty && !Property->IsA<FClassProperty>() &&
+		(Property->HasAnyPropertyFlags(CPF_InstancedReference | CPF_PersistentInstance) ||
+			(ObjectProperty->PropertyClass && ObjectProperty->PropertyClass->HasAnyClassFlags(CLASS_DefaultToInstanced)));
 	if (!bInstanced)
 	{
 		return;

@@ -3,9 +3,15 @@
 #include "Host/Reflection/DisplayName.h"
 #include "UObject/UObjectGlobals.h"
 
-UEnum::UEnum(const FObjectInitializer& ObjectInitializer) : UField(ObjectInitializer) {}
+UEnum::UEnum(const FObjectInitializer& ObjectInitializer)
+	: UField(ObjectInitializer)
+{
+}
 
-UEnum::UEnum(EStaticConstructor, EObjectFlags InFlags) : UField(EC_StaticConstructor, InFlags) {}
+UEnum::UEnum(EStaticConstructor, EObjectFlags InFlags)
+	: UField(EC_StaticConstructor, InFlags)
+{
+}
 
 FName UEnum::MakeFullName(FName ShortName) const
 {
@@ -98,7 +104,8 @@ int32 UEnum::GetIndexByName(FName InName, EGetByNameFlags Flags) const
 
 int32 UEnum::GetIndexByNameString(const FString& SearchString, EGetByNameFlags Flags) const
 {
-	const ESearchCase::Type Case = EnumHasAnyFlags(Flags, EGetByNameFlags::CaseSensitive) ? ESearchCase::CaseSensitive : ESearchCase::IgnoreCase;
+	const ESearchCase::Type Case =
+		EnumHasAnyFlags(Flags, EGetByNameFlags::CaseSensitive) ? ESearchCase::CaseSensitive : ESearchCase::IgnoreCase;
 	const FString Sought = GetShortName(SearchString);
 	for (int32 Index = 0; Index < Names.Num(); ++Index)
 	{
@@ -107,7 +114,8 @@ int32 UEnum::GetIndexByNameString(const FString& SearchString, EGetByNameFlags F
 			return Index;
 		}
 	}
-	UE_CLOG(EnumHasAnyFlags(Flags, EGetByNameFlags::ErrorIfNotFound), LogUObjectGlobals, Error, TEXT("%s has no enumerator '%s'"), *GetName(), *SearchString);
+	UE_CLOG(EnumHasAnyFlags(Flags, EGetByNameFlags::ErrorIfNotFound), LogUObjectGlobals, Error, TEXT("%s has no enumerator '%s'"),
+		*GetName(), *SearchString);
 	return INDEX_NONE;
 }
 

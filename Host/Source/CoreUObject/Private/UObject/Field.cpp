@@ -6,7 +6,10 @@
 #include "UObject/UnrealType.h"
 
 FFieldClass::FFieldClass(const TCHAR* InName, EClassCastFlags InId, EClassCastFlags InCastFlags, FFieldClass* InSuper)
-	: Name(InName), Id(InId), CastFlags(InCastFlags | (InSuper ? InSuper->CastFlags : CASTCLASS_None)), SuperClass(InSuper)
+	: Name(InName)
+	, Id(InId)
+	, CastFlags(InCastFlags | (InSuper ? InSuper->CastFlags : CASTCLASS_None))
+	, SuperClass(InSuper)
 {
 }
 

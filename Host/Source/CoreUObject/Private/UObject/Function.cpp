@@ -2,13 +2,25 @@
 
 #include "UObject/UnrealType.h"
 
-UFunction::UFunction(const FObjectInitializer& ObjectInitializer) : UStruct(ObjectInitializer) {}
+UFunction::UFunction(const FObjectInitializer& ObjectInitializer)
+	: UStruct(ObjectInitializer)
+{
+}
 
-UFunction::UFunction(EStaticConstructor, EObjectFlags InFlags) : UStruct(EC_StaticConstructor, InFlags) {}
+UFunction::UFunction(EStaticConstructor, EObjectFlags InFlags)
+	: UStruct(EC_StaticConstructor, InFlags)
+{
+}
 
-UDelegateFunction::UDelegateFunction(const FObjectInitializer& ObjectInitializer) : UFunction(ObjectInitializer) {}
+UDelegateFunction::UDelegateFunction(const FObjectInitializer& ObjectInitializer)
+	: UFunction(ObjectInitializer)
+{
+}
 
-UDelegateFunction::UDelegateFunction(EStaticConstructor, EObjectFlags InFlags) : UFunction(EC_StaticConstructor, InFlags) {}
+UDelegateFunction::UDelegateFunction(EStaticConstructor, EObjectFlags InFlags)
+	: UFunction(EC_StaticConstructor, InFlags)
+{
+}
 
 FProperty* UFunction::GetReturnProperty() const
 {

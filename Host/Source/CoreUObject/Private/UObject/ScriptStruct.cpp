@@ -5,9 +5,15 @@
 #include "PropertyText.h"
 #include "UObject/UnrealType.h"
 
-UScriptStruct::UScriptStruct(const FObjectInitializer& ObjectInitializer) : UStruct(ObjectInitializer) {}
+UScriptStruct::UScriptStruct(const FObjectInitializer& ObjectInitializer)
+	: UStruct(ObjectInitializer)
+{
+}
 
-UScriptStruct::UScriptStruct(EStaticConstructor, EObjectFlags InFlags) : UStruct(EC_StaticConstructor, InFlags) {}
+UScriptStruct::UScriptStruct(EStaticConstructor, EObjectFlags InFlags)
+	: UStruct(EC_StaticConstructor, InFlags)
+{
+}
 
 FString UScriptStruct::GetStructCPPName() const
 {
@@ -144,10 +150,11 @@ namespace
 		}
 		return *Buffer ? Buffer : nullptr;
 	}
-}
+} // namespace
 
 /** Reads the value of one member, or of one element of a C array member ("Name[1]=..."). */
-static const TCHAR* ImportMember(const UScriptStruct& Struct, const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText, const FString& StructName)
+static const TCHAR* ImportMember(const UScriptStruct& Struct, const TCHAR* Buffer, void* Value, UObject* OwnerObject,
+	int32 PortFlags, FOutputDevice* ErrorText, const FString& StructName)
 {
 	FString Name;
 	Buffer = ReadWord(Buffer, Name);
@@ -173,11 +180,12 @@ static const TCHAR* ImportMember(const UScriptStruct& Struct, const TCHAR* Buffe
 		Report(ErrorText, FString::Printf(TEXT("%s has no member '%s'"), *StructName, *Name));
 		return SkipValue(Buffer);
 	}
-	return Property->ImportText_Direct(Buffer, Property->ContainerPtrToValuePtr<void>(Value, ArrayIndex), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
+	return Property->ImportText_Direct(
+		Buffer, Property->ContainerPtrToValuePtr<void>(Value, ArrayIndex), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
 }
 
-const TCHAR* UScriptStruct::ImportText(
-	const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText, const FString& StructName) const
+const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags,
+	FOutputDevice* ErrorText, const FString& StructName) const
 {
 	if (CppStructOps && CppStructOps->ImportTextItem)
 	{
@@ -215,10 +223,11 @@ const TCHAR* UScriptStruct::ImportText(
 	return Buffer + 1;
 }
 
-void UScriptStruct::ExportText(
-	FString& ValueStr, const void* Value, const void* Defaults, UObject* OwnerObject, int32 PortFlags, UObject* ExportRootScope) const
+void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void* Defaults, UObject* OwnerObject, int32 PortFlags,
+	UObject* ExportRootScope) const
 {
-	if (CppStructOps && CppStructOps->ExportTextItem && CppStructOps->ExportTextItem(ValueStr, Value, Defaults, OwnerObject, PortFlags, ExportRootScope))
+	if (CppStructOps && CppStructOps->ExportTextItem &&
+		CppStructOps->ExportTextItem(ValueStr, Value, Defaults, OwnerObject, PortFlags, ExportRootScope))
 	{
 		return;
 	}
@@ -238,7 +247,8 @@ void UScriptStruct::ExportText(
 			bFirst = false;
 			ValueStr += It->GetName();
 			ValueStr += It->ArrayDim > 1 ? FString::Printf(TEXT("[%d]="), Index) : FString(TEXT("="));
-			It->ExportTextItem_Direct(ValueStr, MemberValue, DefaultValue, OwnerObject, PortFlags | PPF_Delimited, ExportRootScope);
+			It->ExportTextItem_Direct(
+				ValueStr, MemberValue, DefaultValue, OwnerObject, PortFlags | PPF_Delimited, ExportRootScope);
 		}
 	}
 	ValueStr += TEXT(")");

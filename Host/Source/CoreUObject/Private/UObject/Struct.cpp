@@ -7,9 +7,15 @@
 #include "UObject/ReferenceCollector.h"
 #include "UObject/UnrealType.h"
 
-UField::UField(const FObjectInitializer& ObjectInitializer) : UObject(ObjectInitializer) {}
+UField::UField(const FObjectInitializer& ObjectInitializer)
+	: UObject(ObjectInitializer)
+{
+}
 
-UField::UField(EStaticConstructor, EObjectFlags InFlags) : UObject(EC_StaticConstructor, InFlags) {}
+UField::UField(EStaticConstructor, EObjectFlags InFlags)
+	: UObject(EC_StaticConstructor, InFlags)
+{
+}
 
 UStruct* UField::GetOwnerStruct() const
 {
@@ -96,12 +102,14 @@ FText UField::GetToolTipText(bool bShortTooltip) const
 	return Host::MakeToolTipText(MetaData, GetDisplayNameText(), bShortTooltip);
 }
 
-UStruct::UStruct(const FObjectInitializer& ObjectInitializer) : UField(ObjectInitializer)
+UStruct::UStruct(const FObjectInitializer& ObjectInitializer)
+	: UField(ObjectInitializer)
 {
 	RebuildChain();
 }
 
-UStruct::UStruct(EStaticConstructor, EObjectFlags InFlags) : UField(EC_StaticConstructor, InFlags)
+UStruct::UStruct(EStaticConstructor, EObjectFlags InFlags)
+	: UField(EC_StaticConstructor, InFlags)
 {
 	RebuildChain();
 }

@@ -9,6 +9,7 @@
 #include "Host/ConfigFiles.h"
 #include "Host/DesktopApplication.h"
 #include "Host/DesktopInput.h"
+#include "Host/FontServices.h"
 #include "Host/GameThreadQueue.h"
 #include "Host/Mounts.h"
 #include "Host/SlateLoop.h"
@@ -235,6 +236,7 @@ namespace Host
 			Renderer->Destroy();
 			Renderer.Reset();
 		}
+		FFontServices::Shutdown();
 		Input.Reset();
 		Desktop.Reset();
 		FConfigFiles::RemovePluginFolder(FPaths::Combine(Settings.PluginFolder, TEXT("Config")));

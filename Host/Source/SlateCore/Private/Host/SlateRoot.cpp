@@ -88,11 +88,11 @@ namespace Host
 
 	bool FSlateRoot::RunFrame(double CurrentTime, float DeltaTime)
 	{
-		if (!bNeedsFrame || !Widget)
+		// A widget that ticks while a frame is made may ask for the layout to be brought up to date: that is being done.
+		if (!bNeedsFrame || !Widget || FWidgetPasses::CurrentRoot)
 		{
 			return !Damage.IsEmpty();
 		}
-		checkf(!FWidgetPasses::CurrentRoot, TEXT("a frame was asked for while one is made"));
 		const TSharedRef<SWidget> KeepAlive = Widget->AsShared();
 		bNeedsFrame = false;
 		FWidgetPasses::CurrentRoot = this;

@@ -197,13 +197,30 @@ namespace Host
 			Link = &Child->State.NextArranged;
 		}
 		*Link = nullptr;
+		SWidget* Next = State.FirstArranged;
 		for (SWidget* Child : Before)
 		{
 			if (!Child->State.bArranged)
 			{
 				Child->State.NextArranged = nullptr;
 				DropFromView(*Child);
+				continue;
 			}
+			while (Next && !Next->State.bInView)
+			{
+				Next = Next->State.NextArranged;
+			}
+			if (!Child->State.bInView || !Next)
+			{
+				continue;
+			}
+			if (Next != Child && CurrentRoot)
+			{
+				// Another one stands in its place in the order: what lies on top may differ although each is as it was.
+				DamageTree(*Child, *CurrentRoot);
+				DamageTree(*Next, *CurrentRoot);
+			}
+			Next = Next->State.NextArranged;
 		}
 		State.Dirt |= EWidgetDirt::Paint;
 	}

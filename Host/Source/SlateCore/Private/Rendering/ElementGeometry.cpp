@@ -29,9 +29,12 @@ namespace Host
 			return { First, Last - First };
 		}
 
-		bool IsWhole(float Value)
+		/** Up to here, single precision holds every whole number. */
+		constexpr float LargestPixel = 16777216.0f;
+
+		bool IsWholePixel(float Value)
 		{
-			return Value == std::floor(Value);
+			return std::fabs(Value) < LargestPixel && Value == std::floor(Value);
 		}
 	}
 
@@ -81,7 +84,7 @@ namespace Host
 		Element.LocalSize = FVector2f(Across.Length, Down.Length);
 		Element.Bounds = FPixelRect::Around(Across.Start, Down.Start, Across.Start + Across.Length, Down.Start + Down.Length);
 		Element.Flags |= EDrawElementFlags::Translated;
-		if (IsWhole(Across.Start) && IsWhole(Down.Start) && IsWhole(Across.Length) && IsWhole(Down.Length))
+		if (IsWholePixel(Across.Start) && IsWholePixel(Down.Start) && IsWholePixel(Across.Length) && IsWholePixel(Down.Length))
 		{
 			Element.Flags |= EDrawElementFlags::PixelAligned;
 		}

@@ -57,4 +57,4 @@ namespace Host
 		Text = Text ? Text : MetaData.Find(TEXT("ToolTip"));
 		return Text && !Text->IsEmpty() ? FText::FromString(*Text) : DisplayName;
 	}
-}
+} // namespace Host

@@ -13,4 +13,4 @@ namespace Host
 	bool IsTrueMetaData(const FString* Value);
 	FText MakeDisplayNameText(FMetaDataMap& MetaData, const FString& Name, bool bIsBool);
 	FText MakeToolTipText(FMetaDataMap& MetaData, const FText& DisplayName, bool bShort);
-}
+} // namespace Host

@@ -25,7 +25,8 @@ namespace Host
 		};
 
 		template<typename T>
-		constexpr FIntrinsicInfo MakeInfo(const TCHAR* Name, FIntrinsicTypes::EType Super, EClassFlags Flags, EClassCastFlags CastFlags)
+		constexpr FIntrinsicInfo MakeInfo(
+			const TCHAR* Name, FIntrinsicTypes::EType Super, EClassFlags Flags, EClassCastFlags CastFlags)
 		{
 			return {Name, Super, sizeof(T), alignof(T), Flags, CastFlags, &T::__DefaultConstructor, &T::AddReferencedObjects};
 		}
@@ -39,12 +40,13 @@ namespace Host
 			MakeInfo<UStruct>(TEXT("Struct"), FIntrinsicTypes::Field, CLASS_None, CASTCLASS_UStruct),
 			MakeInfo<UScriptStruct>(TEXT("ScriptStruct"), FIntrinsicTypes::Struct, CLASS_None, CASTCLASS_UScriptStruct),
 			MakeInfo<UFunction>(TEXT("Function"), FIntrinsicTypes::Struct, CLASS_None, CASTCLASS_UFunction),
-			MakeInfo<UDelegateFunction>(TEXT("DelegateFunction"), FIntrinsicTypes::Function, CLASS_None, CASTCLASS_UDelegateFunction),
+			MakeInfo<UDelegateFunction>(
+				TEXT("DelegateFunction"), FIntrinsicTypes::Function, CLASS_None, CASTCLASS_UDelegateFunction),
 			MakeInfo<UClass>(TEXT("Class"), FIntrinsicTypes::Struct, CLASS_None, CASTCLASS_UClass),
 			MakeInfo<UEnum>(TEXT("Enum"), FIntrinsicTypes::Field, CLASS_None, CASTCLASS_UEnum),
 		};
 		static_assert(UE_ARRAY_COUNT(Infos) == FIntrinsicTypes::NumTypes);
-	}
+	} // namespace
 
 	void FIntrinsicTypes::MakeAll()
 	{
@@ -74,23 +76,23 @@ namespace Host
 			FTypeBuilder::EnsureLinked(Classes[Index]);
 		}
 	}
-}
+} // namespace Host
 
-#define HOST_INTRINSIC_TYPE(TClass, Type) \
-	UClass* TClass::StaticClass() \
-	{ \
-		return Host::FIntrinsicTypes::Get(Host::FIntrinsicTypes::Type); \
-	} \
-	template<> \
-	UClass* StaticClass<TClass>() \
-	{ \
-		return TClass::StaticClass(); \
+#define HOST_INTRINSIC_TYPE(TClass, Type)                                                                                        \
+	UClass* TClass::StaticClass()                                                                                                \
+	{                                                                                                                            \
+		return Host::FIntrinsicTypes::Get(Host::FIntrinsicTypes::Type);                                                          \
+	}                                                                                                                            \
+	template<>                                                                                                                   \
+	UClass* StaticClass<TClass>()                                                                                                \
+	{                                                                                                                            \
+		return TClass::StaticClass();                                                                                            \
 	}
 
-#define HOST_INTRINSIC_CONSTRUCTOR(TClass, ...) \
-	void TClass::__DefaultConstructor(const FObjectInitializer& X) \
-	{ \
-		::new (static_cast<void*>(X.GetObj())) TClass(__VA_ARGS__); \
+#define HOST_INTRINSIC_CONSTRUCTOR(TClass, ...)                                                                                  \
+	void TClass::__DefaultConstructor(const FObjectInitializer& X)                                                               \
+	{                                                                                                                            \
+		::new (static_cast<void*>(X.GetObj())) TClass(__VA_ARGS__);                                                              \
 	}
 
 HOST_INTRINSIC_TYPE(UObject, Object)

@@ -36,4 +36,4 @@ namespace Host
 
 		static UClass* Classes[NumTypes];
 	};
-}
+} // namespace Host

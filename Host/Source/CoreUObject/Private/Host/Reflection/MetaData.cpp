@@ -70,4 +70,4 @@ namespace Host
 	{
 		return Entries.FindByPredicate([&Key](const FEntry& Entry) { return Entry.Key == Key; });
 	}
-}
+} // namespace Host

@@ -65,7 +65,8 @@ namespace Host
 	static void FindBit(const UStruct* Struct, const FPropertyInfo& Info, int32& OutOffset, uint8& OutMask)
 	{
 		const int32 Size = Struct->GetPropertiesSize();
-		uint8* Memory = static_cast<uint8*>(FMemory::MallocZeroed(static_cast<SIZE_T>(Size), static_cast<uint32>(Struct->GetMinAlignment())));
+		uint8* Memory =
+			static_cast<uint8*>(FMemory::MallocZeroed(static_cast<SIZE_T>(Size), static_cast<uint32>(Struct->GetMinAlignment())));
 		Info.SetBit(Memory);
 		OutOffset = 0;
 		while (OutOffset < Size && Memory[OutOffset] == 0)
@@ -118,6 +119,7 @@ namespace Host
 		}
 		*Tail = Function;
 		Class->AddFunctionToFunctionMap(Function, Function->GetFName());
-		AddPending(Function, [](UStruct*, const void*) {}, nullptr);
+		AddPending(
+			Function, [](UStruct*, const void*) {}, nullptr);
 	}
-}
+} // namespace Host

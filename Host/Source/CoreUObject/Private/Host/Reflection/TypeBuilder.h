@@ -32,7 +32,6 @@ namespace Host
 		static void EnsureLinked(UStruct* Struct);
 		static bool IsLinking(const UStruct* Struct) { return Struct->LinkState == UStruct::ELinkState::Linking; }
 
-
 	private:
 		struct FPending
 		{
@@ -44,4 +43,4 @@ namespace Host
 		static TArray<FPending>& GetPending();
 		static int32 Depth;
 	};
-}
+} // namespace Host

@@ -21,7 +21,8 @@ namespace Host
 
 		void CheckNameIsFree(const UPackage* Package, const TCHAR* Name)
 		{
-			checkf(!StaticFindObjectFast(nullptr, const_cast<UPackage*>(Package), FName(Name)), TEXT("two reflected types are named %s.%s"), *Package->GetName(), Name);
+			checkf(!StaticFindObjectFast(nullptr, const_cast<UPackage*>(Package), FName(Name)),
+				TEXT("two reflected types are named %s.%s"), *Package->GetName(), Name);
 		}
 
 		void AddClassMembers(UStruct* Struct, const void* Data)
@@ -54,7 +55,7 @@ namespace Host
 		{
 			FTypeBuilder::FillFunction(static_cast<UFunction*>(Struct), static_cast<const FSignatureInfo*>(Data)->Function);
 		}
-	}
+	} // namespace
 
 	const TArray<UClass*>& GetAllNativeClasses()
 	{
@@ -146,4 +147,4 @@ namespace Host
 		FTypeBuilder::AddPending(Function, &AddSignatureMembers, &Info);
 		return Function;
 	}
-}
+} // namespace Host

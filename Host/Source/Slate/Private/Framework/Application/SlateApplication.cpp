@@ -263,7 +263,11 @@ double Host::FSlateLoop::GetNextWakeTime()
 {
 	const FSlateApplication& Application = FSlateApplication::Get();
 	const bool bFrameDue = !Application.WindowsToDestroy.IsEmpty()
-		|| Application.Windows.ContainsByPredicate([](const TSharedRef<SWindow>& Window) { return Window->GetRoot().NeedsFrame(); });
+		|| Application.Windows.ContainsByPredicate([&Application](const TSharedRef<SWindow>& Window)
+		{
+			const FSlateRoot& Root = Window->GetRoot();
+			return Root.NeedsFrame() || (Application.Renderer.IsValid() && !Root.GetDamage().IsEmpty());
+		});
 	return bFrameDue ? FClock::Now() : FMath::Min(FWidgetActivity::GetNextTimerTime(), Application.ToolTips->GetShowTime());
 }
 
