@@ -13,11 +13,6 @@ find_package(Threads REQUIRED)
 add_library(Library::fmt ALIAS fmt::fmt-header-only)
 add_library(Library::CLI11 ALIAS CLI11::CLI11)
 
-find_path(SIMPLEINI_INCLUDE_DIR SimpleIni.h REQUIRED)
-add_library(SimpleIni INTERFACE)
-target_include_directories(SimpleIni SYSTEM INTERFACE ${SIMPLEINI_INCLUDE_DIR})
-add_library(Library::SimpleIni ALIAS SimpleIni)
-
 find_path(RAPIDJSON_INCLUDE_DIR rapidjson/rapidjson.h REQUIRED)
 add_library(RapidJson INTERFACE)
 target_include_directories(RapidJson SYSTEM INTERFACE ${RAPIDJSON_INCLUDE_DIR})

@@ -6,6 +6,10 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
 set(CMAKE_CXX_FLAGS_DEV "-O1 -g1")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -g1")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Objects are constructed in memory that was zeroed for them: what a constructor does not set must stay zero.
+    string(APPEND CMAKE_CXX_FLAGS_RELEASE " -flifetime-dse=1")
+endif()
 set(HALVEX_SANITIZE "" CACHE STRING "Sanitizers, separated by commas; empty for none")
 
 find_program(CCACHE_PROGRAM ccache)
@@ -37,6 +41,8 @@ else()
 endif()
 if(HALVEX_SANITIZE)
     # vptr checks need run-time type information, which the engine's modules are built without.
+    # Findings in the headers of libraries are not ours to mend.
+    add_compile_options("-fsanitize-ignorelist=${CMAKE_SOURCE_DIR}/CMake/SanitizerIgnore.txt")
     add_compile_options(-fsanitize=${HALVEX_SANITIZE} -fno-sanitize=vptr -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${HALVEX_SANITIZE})
 endif()

@@ -4,6 +4,7 @@
 #include "ExpectedLog.h"
 #include "Host/ConfigFiles.h"
 #include "Host/PathRoots.h"
+#include "RestoredRoots.h"
 #include "TemporaryFolder.h"
 #include "TestText.h"
 #include "gtest/gtest.h"
@@ -29,8 +30,6 @@ namespace
 		{
 			GConfig->Flush(true, Name);
 			Host::FConfigFiles::RemovePluginFolder(Folder / TEXT("Plugin"));
-			Host::FPathRoots::SetProjectDir(FString());
-			Host::FPathRoots::SetSavedDir(FString());
 		}
 
 		void WritePlugin(const char* Content) { Folder.Write(TEXT("Plugin/DefaultCoreTest.ini"), Content); }
@@ -54,6 +53,7 @@ namespace
 		}
 
 		FTemporaryFolder Folder;
+		const FRestoredRoots Restored;
 	};
 }
 

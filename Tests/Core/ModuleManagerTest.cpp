@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "CoreTestModule.h"
 #include "ExpectedLog.h"
+#include "Host/LinkedModules.h"
 #include "TestText.h"
 #include "gtest/gtest.h"
 
@@ -12,9 +13,33 @@ namespace
 {
 	const FName TestModule = TEXT("CoreTestTypes");
 
+	/** Starts from no module loaded, and puts those back that the program had. */
 	class ModuleManagerTest : public ::testing::Test
 	{
 	protected:
+		static void SetUpTestSuite()
+		{
+			int32 Count = 0;
+			const Host::FLinkedModule* const Linked = Host::GetLinkedModules(Count);
+			for (int32 Index = 0; Index < Count; ++Index)
+			{
+				if (FModuleManager::Get().IsModuleLoaded(Linked[Index].Name))
+				{
+					GetLoadedBefore().Add(Linked[Index].Name);
+				}
+			}
+			FModuleManager::Get().UnloadModulesAtShutdown();
+		}
+
+		static void TearDownTestSuite()
+		{
+			for (const FName Module : GetLoadedBefore())
+			{
+				FModuleManager::Get().LoadModule(Module);
+			}
+			GetLoadedBefore().Empty();
+		}
+
 		void SetUp() override
 		{
 			FCoreTestModule::GetEvents().Empty();
@@ -33,6 +58,12 @@ namespace
 		static std::string GetEvents()
 		{
 			return ToUtf8(FString::Join(FCoreTestModule::GetEvents(), TEXT(" ")));
+		}
+
+		static TArray<FName>& GetLoadedBefore()
+		{
+			static TArray<FName> Names;
+			return Names;
 		}
 
 		FDelegateHandle Changes;

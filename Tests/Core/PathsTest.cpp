@@ -4,6 +4,7 @@
 #include "HAL/PlatformProcess.h"
 #include "Host/PathRoots.h"
 #include "Misc/App.h"
+#include "RestoredRoots.h"
 #include "TestText.h"
 #include "gtest/gtest.h"
 
@@ -142,6 +143,7 @@ TEST(PathsTest, FileNamesLoseWhatFilesCannotHave)
 
 TEST(PathsTest, ProjectFoldersFollowTheirRoot)
 {
+	const FRestoredRoots Restored;
 	Host::FPathRoots::SetProjectDir(TEXT("/Some/Project"));
 	EXPECT_EQ("/Some/Project/", ToUtf8(FPaths::ProjectDir()));
 	EXPECT_EQ("/Some/Project/Config/", ToUtf8(FPaths::ProjectConfigDir()));
@@ -152,6 +154,8 @@ TEST(PathsTest, ProjectFoldersFollowTheirRoot)
 
 TEST(PathsTest, TheUsersFoldersFollowTheDesktopConventions)
 {
+	const FRestoredRoots Restored;
+	Host::FPathRoots::SetSavedDir(FString());
 	const FString OldName = FApp::GetProjectName();
 	FApp::SetProjectName(TEXT("Tower"));
 	{
@@ -173,9 +177,9 @@ TEST(PathsTest, TheUsersFoldersFollowTheDesktopConventions)
 
 TEST(PathsTest, ASavedFolderSetByHandHoldsTheSettingsToo)
 {
+	const FRestoredRoots Restored;
 	Host::FPathRoots::SetSavedDir(TEXT("/Saved"));
 	EXPECT_EQ("/Saved/", ToUtf8(FPaths::ProjectSavedDir()));
 	EXPECT_EQ("/Saved/Config/", ToUtf8(FPaths::GeneratedConfigDir()));
 	EXPECT_EQ("/Saved/Screenshots/", ToUtf8(FPaths::ScreenShotDir()));
-	Host::FPathRoots::SetSavedDir(FString());
 }

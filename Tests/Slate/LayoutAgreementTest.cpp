@@ -132,6 +132,7 @@ protected:
 TEST_F(LayoutAgreementTest, ChangesAloneGiveWhatEverythingAnewGives)
 {
 	Show(MakeTree());
+	EXPECT_FALSE(Describe().empty());
 	for (int32 Step = 0; Step < 1500; ++Step)
 	{
 		for (int32 Count = 1 + Pick(3); Count > 0; --Count)

@@ -205,7 +205,7 @@ TEST_F(DesktopEvents, EventsOfWindowsThatAreGoneAreDropped)
 	EXPECT_EQ(Click(SDL_MOUSEBUTTONDOWN, SDL_BUTTON_LEFT, 10, 20), FString());
 }
 
-TEST_F(DesktopEvents, EndOfTheSessionIsReported)
+TEST_F(DesktopEvents, QuittingIsReported)
 {
 	SDL_Event Event = {};
 	Event.type = SDL_QUIT;

@@ -157,7 +157,7 @@ TEST_F(SlateEventForwarder, ClosingGoesThroughTheWindow)
 	EXPECT_EQ(FSlateApplication::Get().GetTopLevelWindows().Num(), 0);
 }
 
-TEST_F(SlateEventForwarder, EndOfTheSessionClosesAllWindows)
+TEST_F(SlateEventForwarder, QuittingClosesAllWindows)
 {
 	Forwarder.OnQuitRequested();
 	FSlateApplication::Get().Tick();

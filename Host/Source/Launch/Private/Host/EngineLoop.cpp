@@ -58,7 +58,12 @@ namespace Host
 			return false;
 		}
 		FSlateApplication::Create();
-		FSlateApplication::Get().InitializeRenderer(Renderer.ToSharedRef());
+		if (!FSlateApplication::Get().InitializeRenderer(Renderer.ToSharedRef()))
+		{
+			OutError = FString::Printf(TEXT("the renderer '%s' cannot be used."), Renderer->GetName());
+			Exit();
+			return false;
+		}
 		StartLinkedModules();
 
 		GEngine = NewObject<UEngine>();

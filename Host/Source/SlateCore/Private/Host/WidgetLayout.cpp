@@ -42,6 +42,11 @@ namespace Host
 			return false;
 		}
 		State.DesiredSize = Size;
+		if (Widget.Clipping == EWidgetClipping::OnDemand)
+		{
+			// Whether it clips depends on what it wants.
+			State.Dirt |= EWidgetDirt::Paint;
+		}
 		return true;
 	}
 
@@ -55,7 +60,7 @@ namespace Host
 			if (!IsNull(Child) && Child.Visibility != EVisibility::Collapsed)
 			{
 				bChanged |= Prepass(Child, Scale * Widget.GetRelativeLayoutScale(Index, Scale));
-				Inherit(Widget.State, Child, EWidgetDirt::AnyArrange);
+				Inherit(Widget.State, Child, EWidgetDirt::AnyArrange | EWidgetDirt::AnyPaint);
 			}
 		}
 		return bChanged;
@@ -69,7 +74,7 @@ namespace Host
 			if (Child->Visibility != EVisibility::Collapsed)
 			{
 				bChanged |= Prepass(*Child, Child->State.PrepassScale);
-				Inherit(Widget.State, *Child, EWidgetDirt::AnyArrange);
+				Inherit(Widget.State, *Child, EWidgetDirt::AnyArrange | EWidgetDirt::AnyPaint);
 			}
 		}
 		return bChanged;

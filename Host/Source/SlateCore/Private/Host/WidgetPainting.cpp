@@ -76,10 +76,15 @@ namespace Host
 			}
 		}
 
-		/** What those ancestors clip to whose clipping nothing escapes. */
+		/** What those ancestors clip to whose clipping nothing escapes, and the picture. */
 		FClipState GetInescapableClip(const SWidget& Widget)
 		{
 			FClipState Clip;
+			if (FWidgetPasses::CurrentRoot)
+			{
+				const FIntPoint Size = FWidgetPasses::CurrentRoot->GetSizePixels();
+				Clip.Rect = FPixelRect::Make(0, 0, Size.X, Size.Y);
+			}
 			for (const SWidget* Ancestor = FWidgetPasses::StateOf(Widget).Parent; Ancestor; Ancestor = FWidgetPasses::StateOf(*Ancestor).Parent)
 			{
 				if (Ancestor->GetClipping() == EWidgetClipping::ClipToBoundsAlways)

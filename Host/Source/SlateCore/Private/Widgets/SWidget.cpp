@@ -116,9 +116,10 @@ bool SWidget::CustomPrepass(float)
 void SWidget::SlatePrepass(float InLayoutScaleMultiplier)
 {
 	const bool bChanged = FWidgetPasses::Prepass(*this, InLayoutScaleMultiplier);
-	if (EnumHasAnyFlags(State.Dirt, Host::EWidgetDirt::AnyArrange))
+	const Host::EWidgetDirt Left = State.Dirt & (Host::EWidgetDirt::AnyArrange | Host::EWidgetDirt::AnyPaint);
+	if (Left != Host::EWidgetDirt::None)
 	{
-		FWidgetPasses::Mark(*this, State.Dirt & Host::EWidgetDirt::AnyArrange);
+		FWidgetPasses::Mark(*this, Left);
 	}
 	if (bChanged && State.Parent)
 	{

@@ -18,7 +18,7 @@ namespace Host
 			{ TEXT("framebuffers"), GL_FRAMEBUFFER },
 			{ TEXT("programs"), GL_PROGRAM },
 		};
-		static_assert(UE_ARRAY_COUNT(Kinds) == static_cast<int32>(EGlObjectKind::Num));
+		static_assert(UE_ARRAY_COUNT(Kinds) == static_cast<int32>(EGlObjectKind::Program) + 1);
 
 		int32 NumAlive[UE_ARRAY_COUNT(Kinds)] = {};
 
@@ -43,9 +43,8 @@ namespace Host
 				glGenFramebuffers(1, &Name);
 				break;
 			case EGlObjectKind::Program:
+			default:
 				Name = glCreateProgram();
-				break;
-			case EGlObjectKind::Num:
 				break;
 			}
 			return Name;
@@ -71,9 +70,8 @@ namespace Host
 				glDeleteFramebuffers(1, &Name);
 				break;
 			case EGlObjectKind::Program:
+			default:
 				glDeleteProgram(Name);
-				break;
-			case EGlObjectKind::Num:
 				break;
 			}
 		}

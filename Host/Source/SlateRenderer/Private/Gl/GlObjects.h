@@ -13,7 +13,6 @@ namespace Host
 		Sampler,
 		Framebuffer,
 		Program,
-		Num,
 	};
 
 	/**
@@ -41,6 +40,6 @@ namespace Host
 
 	private:
 		GLuint Name = 0;
-		EGlObjectKind Kind = EGlObjectKind::Num;
+		EGlObjectKind Kind = EGlObjectKind::Buffer;
 	};
 }

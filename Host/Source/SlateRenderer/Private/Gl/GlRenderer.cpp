@@ -24,6 +24,10 @@ namespace Host
 
 	bool FGlRenderer::Initialize(FString& OutError)
 	{
+		if (Context.IsValid())
+		{
+			return true;
+		}
 		Context = MakeContext(OutError);
 		if (!Context.IsValid())
 		{

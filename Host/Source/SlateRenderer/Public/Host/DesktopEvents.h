@@ -37,7 +37,7 @@ namespace Host
 		virtual void OnCloseRequested(const TSharedRef<FGenericWindow>& Window) = 0;
 		/** The system lost what the window showed. */
 		virtual void OnExposed(const TSharedRef<FGenericWindow>& Window) = 0;
-		/** The user or the session wants the program to end. */
+		/** The user or the system wants the program to end. */
 		virtual void OnQuitRequested() = 0;
 	};
 }

@@ -115,8 +115,9 @@ void UUserWidget::AddToViewport(int32 ZOrder)
 	{
 		CurrentParent->RemoveChild(this);
 	}
-	ViewportContent = TakeWidget();
-	Viewport->AddViewportWidgetContent(ViewportContent.ToSharedRef(), ZOrder);
+	const TSharedRef<SWidget> Content = TakeWidget();
+	ViewportContent = Content;
+	Viewport->AddViewportWidgetContent(Content, ZOrder);
 }
 
 bool UUserWidget::AddToPlayerScreen(int32 ZOrder)
@@ -137,9 +138,8 @@ bool UUserWidget::IsInViewport() const
 
 void UUserWidget::RemoveFromParent()
 {
-	if (IsInViewport())
+	if (const TSharedPtr<SWidget> Content = ViewportContent.Pin())
 	{
-		const TSharedPtr<SWidget> Content = MoveTemp(ViewportContent);
 		ViewportContent.Reset();
 		const UWorld* World = GetWorld();
 		if (UGameViewportClient* Viewport = World && World->GetGameInstance() ? World->GetGameInstance()->GetGameViewportClient() : nullptr)

@@ -204,8 +204,8 @@ private:
 	uint8 bInitialized : 1;
 	uint8 bConstructed : 1;
 
-	/** What holds the Slate side while the widget is in the viewport. */
-	TSharedPtr<SWidget> ViewportContent;
+	/** What stands in the viewport, which owns it: a viewport that is emptied lets go of the widget. */
+	TWeakPtr<SWidget> ViewportContent;
 
 	TWeakObjectPtr<APlayerController> OwningPlayer;
 	TWeakObjectPtr<UWorld> OwningWorld;

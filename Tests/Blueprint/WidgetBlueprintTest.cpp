@@ -1,0 +1,172 @@
+#include "EngineTest.h"
+
+#include "Blueprint/UserWidget.h"
+#include "Blueprint/WidgetTree.h"
+#include "Components/Border.h"
+#include "Components/TextBlock.h"
+#include "Engine/Engine.h"
+#include "Engine/GameInstance.h"
+#include "TemporaryContent.h"
+#include "UObject/UnrealType.h"
+#include "gmock/gmock.h"
+
+namespace
+{
+	class FWidgetBlueprintTest : public Host::FEngineTest
+	{
+	protected:
+		/** Writes a blueprint and loads its class. */
+		UClass* Load(const TCHAR* Name, const char* Json, const char* Graph = nullptr)
+		{
+			Content.Write(*(FString(Name) + TEXT(".widget.json")), Json);
+			if (Graph)
+			{
+				Content.Write(*(FString(Name) + TEXT(".lua")), Graph);
+			}
+			return LoadObject<UClass>(nullptr, *FString::Printf(TEXT("/Blueprints/%s.%s_C"), Name, Name));
+		}
+
+		UUserWidget* Show(UClass* Class)
+		{
+			UUserWidget* Widget = CreateWidget<UUserWidget>(GEngine->GetGameInstance(), Class);
+			Widget->AddToViewport();
+			Loop.RunUntilIdle();
+			return Widget;
+		}
+
+		static std::string GetTextOf(const UUserWidget& Widget, const TCHAR* Name)
+		{
+			const UTextBlock* Text = Cast<UTextBlock>(Widget.GetWidgetFromName(Name));
+			return Text ? Host::ToStd(Text->GetText()) : "(none)";
+		}
+
+		Host::FTemporaryContent Content{ TEXT("/Blueprints/") };
+	};
+
+	const char* const OneText = R"({ "Root": { "Class": "Border", "Children": [ { "Class": "TextBlock", "Name": "Label", "Properties": { "Text": "Hello" } } ] } })";
+
+	TEST_F(FWidgetBlueprintTest, InstancesGetTheirOwnCopyOfTheTree)
+	{
+		UClass* Class = Load(TEXT("Copies"), OneText);
+		ASSERT_TRUE(Class);
+		UUserWidget* First = Show(Class);
+		UUserWidget* Second = Show(Class);
+		EXPECT_EQ(GetTextOf(*First, TEXT("Label")), "Hello");
+		EXPECT_NE(First->GetWidgetFromName(TEXT("Label")), Second->GetWidgetFromName(TEXT("Label")));
+		CastChecked<UTextBlock>(First->GetWidgetFromName(TEXT("Label")))->SetText(FText::FromString(TEXT("Changed")));
+		EXPECT_EQ(GetTextOf(*Second, TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, GraphFunctionsTakeThePlaceOfEvents)
+	{
+		UClass* Class = Load(TEXT("Events"), OneText, "function Construct(self) self.Label:SetText('Constructed') end");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Constructed");
+	}
+
+	TEST_F(FWidgetBlueprintTest, VariablesHaveDefaultsAndKeepTheirTypes)
+	{
+		UClass* Class = Load(TEXT("Variables"), R"({ "Variables": { "Count": { "Type": "int", "Default": 7 }, "Names": { "Type": "[name]", "Default": ["A", "B"] } }, "Root": { "Class": "TextBlock", "Name": "Label" } })",
+			"function Construct(self) self.Count = self.Count + #self.Names self.Label:SetText(tostring(self.Count)) end");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "9");
+	}
+
+	TEST_F(FWidgetBlueprintTest, ButtonsCallTheFunctionsBoundToThem)
+	{
+		UClass* Class = Load(TEXT("Buttons"), R"({ "Root": { "Class": "Button", "Name": "Push", "Children": [ { "Class": "TextBlock", "Name": "Label", "Properties": { "Text": "0" } } ] } })",
+			"function OnInitialized(self) self.Push.OnClicked:Add(function() self.Label:SetText('clicked') end) end");
+		UUserWidget* Widget = Show(Class);
+		Driver.ClickAt(Driver.GetMiddle(*Widget->GetWidgetFromName(TEXT("Push"))));
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "clicked");
+	}
+
+	TEST_F(FWidgetBlueprintTest, BlueprintsDeriveFromBlueprints)
+	{
+		Load(TEXT("Base"), OneText, "function Construct(self) self.Label:SetText(self:Say()) end function Say(self) return 'base' end");
+		UClass* Derived = Load(TEXT("Derived"), R"({ "Parent": "/Blueprints/Base.Base" })");
+		ASSERT_TRUE(Derived);
+		EXPECT_NE(GetTextOf(*Show(Derived), TEXT("Label")), "(none)");
+	}
+
+	TEST_F(FWidgetBlueprintTest, NoScriptKeepsAScreenAlive)
+	{
+		UClass* Class = Load(TEXT("Lifetime"), OneText, "local Kept function Construct(self) Kept = function() return self end self.Label:SetText('x') end");
+		TWeakObjectPtr<UUserWidget> Widget = Show(Class);
+		Widget->RemoveFromParent();
+		Loop.RunUntilIdle();
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		EXPECT_FALSE(Widget.IsValid());
+	}
+
+	TEST_F(FWidgetBlueprintTest, UnknownClassIsOneLineAndTheRestIsMade)
+	{
+		const Host::FExpectedLog Unknown(TEXT("there is no class 'NoSuchWidget'"));
+		UClass* Class = Load(TEXT("UnknownClass"), "{ \"Root\": { \"Class\": \"VerticalBox\", \"Children\": [\n { \"Class\": \"NoSuchWidget\" },\n { \"Class\": \"TextBlock\", \"Name\": \"Label\", \"Properties\": { \"Text\": \"there\" } } ] } }");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
+		EXPECT_THAT(Host::ToStd(Unknown.GetLastLine()), testing::HasSubstr("UnknownClass.widget.json:2:"));
+	}
+
+	TEST_F(FWidgetBlueprintTest, UnknownPropertyIsOneLineAndTheRestIsRead)
+	{
+		const Host::FExpectedLog Unknown(TEXT("'NoSuchProperty'"));
+		UClass* Class = Load(TEXT("UnknownProperty"), R"({ "Root": { "Class": "TextBlock", "Name": "Label", "Properties": { "NoSuchProperty": 1, "Text": "there" } } })");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
+	}
+
+	TEST_F(FWidgetBlueprintTest, BrokenFileNamesThePlace)
+	{
+		const Host::FExpectedLog Broken(TEXT("Broken.widget.json:1:"));
+		const Host::FExpectedLog Failed(TEXT("/Blueprints/Broken.Broken_C"), Host::FExpectedLog::AnyCount);
+		EXPECT_EQ(Load(TEXT("Broken"), "{ \"Root\": }"), nullptr);
+	}
+
+	TEST_F(FWidgetBlueprintTest, ScriptErrorNamesFileAndLineAndTheScreenGoesOn)
+	{
+		const Host::FExpectedLog Error(TEXT("/Blueprints/ScriptError.lua:2:"));
+		UClass* Class = Load(TEXT("ScriptError"), OneText, "function Construct(self)\n self.NoSuchThing:SetText('x')\nend");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, ScriptThatCannotBeReadIsOneLine)
+	{
+		const Host::FExpectedLog Error(TEXT("/Blueprints/Syntax.lua:1:"));
+		UClass* Class = Load(TEXT("Syntax"), OneText, "function Construct(self");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, EndlessScriptIsEnded)
+	{
+		const Host::FExpectedLog Ended(TEXT("was ended"));
+		UClass* Class = Load(TEXT("Endless"), OneText, "function Construct(self) while true do end end");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, GreedyScriptIsRefusedMemory)
+	{
+		const Host::FExpectedLog Refused(TEXT("memory"));
+		UClass* Class = Load(TEXT("Greedy"), OneText, "function Construct(self) local Text = 'x' while true do Text = Text .. Text end end");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, ScriptsReachNoFilesAndNoCode)
+	{
+		for (const char* Name : { "io", "os", "debug", "package", "require", "load", "loadfile", "dofile", "collectgarbage" })
+		{
+			const FString Class = FString(TEXT("Reach_")) + UTF8_TO_TCHAR(Name);
+			const std::string Graph = std::string("function Construct(self) self.Label:SetText(tostring(") + Name + ")) end";
+			EXPECT_EQ(GetTextOf(*Show(Load(*Class, OneText, Graph.c_str())), TEXT("Label")), "nil") << Name;
+		}
+	}
+
+	TEST_F(FWidgetBlueprintTest, ArgumentOfTheWrongTypeIsAnErrorInTheScript)
+	{
+		const Host::FExpectedLog Error(TEXT("a number expected, got string"));
+		UClass* Class = Load(TEXT("WrongType"), OneText, "function Construct(self) self.Label:SetMinDesiredWidth('wide') end");
+		Show(Class);
+	}
+
+	TEST_F(FWidgetBlueprintTest, FunctionsOfTheParentThatAreNoEventsStay)
+	{
+		const Host::FExpectedLog Error(TEXT("'AddToViewport' is a function of UserWidget that cannot be replaced"));
+		EXPECT_TRUE(Load(TEXT("Replaced"), OneText, "function AddToViewport(self) end"));
+	}
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/PictureCompare.h"
+
+namespace Host
+{
+	/**
+	 * Compares a picture with the approved one, Tests/Goldens/<Name>.png, pixel by pixel. A failure leaves <Name>.actual.png and
+	 * <Name>.difference.png beside it. With HALVEX_ACCEPT_GOLDENS set in the environment the picture becomes the approved one:
+	 * look at it before it is committed.
+	 */
+	void ExpectGolden(const FString& Name, const FPicture& Picture);
+}
