@@ -8,8 +8,6 @@ namespace Host
 {
 	namespace
 	{
-		constexpr std::chrono::milliseconds RearmInterval{ 20 };
-
 		void EndScript(lua_State* State, lua_Debug*)
 		{
 			lua_sethook(State, nullptr, 0, 0);
@@ -89,14 +87,10 @@ namespace Host
 			Changed.wait_for(Lock, std::chrono::duration<double>(Limit), [this] { return bEnd; });
 			if (!bEnd && Call == Watched)
 			{
+				// Setting a hook is the one thing that another thread may do to a running script.
+				lua_sethook(State, &EndScript, LUA_MASKCOUNT | LUA_MASKCALL | LUA_MASKRET, 1);
 				bFired = true;
-				do
-				{
-					// Setting a hook is the one thing that another thread may do to a running script. A script that leaves or
-					// enters a function at that moment can miss it, so it is set until the call has ended.
-					lua_sethook(State, &EndScript, LUA_MASKCOUNT | LUA_MASKCALL | LUA_MASKRET, 1);
-				}
-				while (!Changed.wait_for(Lock, RearmInterval, [this, Watched] { return bEnd || Call != Watched; }));
+				Changed.wait(Lock, [this, Watched] { return bEnd || Call != Watched; });
 			}
 		}
 	}
