@@ -6,6 +6,7 @@
 #include "Components/TextBlock.h"
 #include "Engine/Engine.h"
 #include "Engine/GameInstance.h"
+#include "HAL/PlatformProcess.h"
 #include "TemporaryContent.h"
 #include "UObject/UnrealType.h"
 #include "gmock/gmock.h"
@@ -138,6 +139,19 @@ namespace
 		const Host::FExpectedLog Ended(TEXT("was ended"));
 		UClass* Class = Load(TEXT("Endless"), OneText, "function Construct(self) while true do end end");
 		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, EndlessScriptIsEndedThoughTheWatchSlept)
+	{
+		// The watch falls asleep once no script has run for its time; a short call then wakes it and is over before it looks.
+		UClass* Class = Load(TEXT("Quiet"), OneText, "function Construct(self) end");
+		Show(Class);
+		FPlatformProcess::Sleep(2.2f);
+		Show(Class);
+		FPlatformProcess::Sleep(0.05f);
+
+		const Host::FExpectedLog Ended(TEXT("was ended"));
+		Show(Load(TEXT("EndlessLater"), OneText, "function Construct(self) while true do end end"));
 	}
 
 	TEST_F(FWidgetBlueprintTest, GreedyScriptIsRefusedMemory)

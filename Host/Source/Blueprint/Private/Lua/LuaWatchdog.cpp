@@ -79,8 +79,11 @@ namespace Host
 			const uint64 Watched = Call;
 			if (Watched % 2 == 0)
 			{
-				bAsleep = true;
-				Changed.wait(Lock, [this] { return bEnd || Call % 2 == 1; });
+				// Said at every look: who wakes this thread takes the word back, and that call may have ended by now.
+				Changed.wait(Lock, [this] {
+					bAsleep = true;
+					return bEnd || Call % 2 == 1;
+				});
 				bAsleep = false;
 				continue;
 			}

@@ -27,7 +27,7 @@ namespace Host
 		void BeginCall();
 		void EndCall();
 
-		/** Seconds that a call may last. */
+		/** Seconds that a call may last; one that lasts longer is ended before it has lasted twice that. */
 		static constexpr double Limit = 2.0;
 
 	private:
