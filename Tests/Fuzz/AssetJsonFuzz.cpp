@@ -1,6 +1,5 @@
 #include "CoreMinimal.h"
 #include "Host/JsonDocument.h"
-#include "Host/LogSink.h"
 #include "Host/PropertyJson.h"
 #include "ObjectTestStyle.h"
 #include "UObject/UObjectGlobals.h"
@@ -10,7 +9,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* Data, size_t Size)
 {
 	static UObjectTestStyle* Style = []
 	{
-		Host::FLogSinks::SetStandardErrorVerbosity(ELogVerbosity::NoLogging);
 		UObjectTestStyle* Made = NewObject<UObjectTestStyle>();
 		Made->AddToRoot();
 		return Made;

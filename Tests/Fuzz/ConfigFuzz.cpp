@@ -3,7 +3,6 @@
 #include "CoreMinimal.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformProcess.h"
-#include "Host/LogSink.h"
 #include "Host/PathRoots.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Guid.h"
@@ -21,8 +20,6 @@ namespace
 
 		FUserFolder()
 		{
-			// Every damaged file is a warning by design.
-			Host::FLogSinks::SetStandardErrorVerbosity(ELogVerbosity::NoLogging);
 			Host::FPathRoots::SetSavedDir(Path);
 			verify(IFileManager::Get().MakeDirectory(*(Path / TEXT("Config")), true));
 		}
