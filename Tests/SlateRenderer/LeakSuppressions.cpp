@@ -1,7 +1,8 @@
 // Under the address sanitizer: graphics drivers keep a few buffers of their own until the program ends. A driver that
 // was unloaded has no name that could be suppressed by, so none is.
 
-#if defined(__SANITIZE_ADDRESS__) || (defined(__has_feature) && __has_feature(address_sanitizer))
+#ifdef __clang__
+#if __has_feature(address_sanitizer)
 
 extern "C" const char* __lsan_default_suppressions();
 
@@ -15,4 +16,5 @@ extern "C" __attribute__((visibility("default"))) int dlclose(void*) noexcept
 	return 0;
 }
 
+#endif
 #endif
