@@ -149,3 +149,6 @@ struct FNameFastLess
 	constexpr bool operator()(const FName& A, const FName& B) const { return A.FastLess(B); }
 	constexpr bool operator()(FNameEntryId A, FNameEntryId B) const { return A.FastLess(B); }
 };
+
+/** The name of a member, checked when compiled. The member must be accessible where this stands. */
+#define GET_MEMBER_NAME_CHECKED(ClassName, MemberName) ((void)sizeof(((ClassName*)nullptr)->MemberName), FName(TEXT(#MemberName)))

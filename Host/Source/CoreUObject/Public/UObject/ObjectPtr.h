@@ -132,4 +132,11 @@ TObjectPtr<T> ObjectPtrWrap(T* Object)
 	return TObjectPtr<T>(Object);
 }
 
+/** A container of raw pointers seen as a container of object pointers. */
+template<typename T, typename TAllocator>
+TArray<TObjectPtr<T>, TAllocator>& ObjectPtrWrap(TArray<T*, TAllocator>& Array)
+{
+	return reinterpret_cast<TArray<TObjectPtr<T>, TAllocator>&>(Array);
+}
+
 static_assert(sizeof(TObjectPtr<UObject>) == sizeof(UObject*), "Reflection treats both pointers alike");

@@ -1,5 +1,6 @@
 #include "Components/Button.h"
 
+#include "Binding/States/WidgetStateRegistration.h"
 #include "Components/ButtonSlot.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/Input/SButton.h"
@@ -86,21 +87,25 @@ FReply UButton::SlateHandleClicked()
 void UButton::SlateHandlePressed()
 {
 	OnPressed.Broadcast();
+	BroadcastBinaryPostStateChange(UWidgetPressedStateRegistration::Bit, true);
 }
 
 void UButton::SlateHandleReleased()
 {
 	OnReleased.Broadcast();
+	BroadcastBinaryPostStateChange(UWidgetPressedStateRegistration::Bit, false);
 }
 
 void UButton::SlateHandleHovered()
 {
 	OnHovered.Broadcast();
+	BroadcastBinaryPostStateChange(UWidgetHoveredStateRegistration::Bit, true);
 }
 
 void UButton::SlateHandleUnhovered()
 {
 	OnUnhovered.Broadcast();
+	BroadcastBinaryPostStateChange(UWidgetHoveredStateRegistration::Bit, false);
 }
 
 void UButton::SynchronizeProperties()

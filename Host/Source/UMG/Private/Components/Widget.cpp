@@ -1,5 +1,6 @@
 #include "Components/Widget.h"
 
+#include "Binding/States/WidgetStateRegistration.h"
 #include "Blueprint/UserWidget.h"
 #include "Blueprint/WidgetTree.h"
 #include "Components/PanelWidget.h"
@@ -71,12 +72,58 @@ void UWidget::ApplyRenderTransform()
 	}
 }
 
+FDelegateHandle UWidget::RegisterPostStateListener(const FOnWidgetStateBroadcast::FDelegate& ListenerDelegate, bool bBroadcastCurrentState)
+{
+	if (!PostStateListeners)
+	{
+		PostStateListeners = MakeUnique<FOnWidgetStateBroadcast>();
+	}
+	if (bBroadcastCurrentState)
+	{
+		ListenerDelegate.ExecuteIfBound(this, AskForStates());
+	}
+	return PostStateListeners->Add(ListenerDelegate);
+}
+
+void UWidget::UnregisterPostStateListener(const FDelegateHandle& ListenerDelegate)
+{
+	if (PostStateListeners)
+	{
+		PostStateListeners->Remove(ListenerDelegate);
+	}
+}
+
+void UWidget::BroadcastBinaryPostStateChange(const FWidgetStateBitfield& StateChange, bool bInValue)
+{
+	if (PostStateListeners)
+	{
+		FWidgetStateBitfield States = AskForStates();
+		States.SetBinaryState(StateChange, bInValue);
+		PostStateListeners->Broadcast(this, States);
+	}
+}
+
+FWidgetStateBitfield UWidget::AskForStates() const
+{
+	FWidgetStateBitfield States;
+	const auto Ask = [this, &States]<typename T>(const T* Registration) { States.SetBinaryState(T::Bit, Registration->GetRegisteredWidgetState(this)); };
+	Ask(GetDefault<UWidgetHoveredStateRegistration>());
+	Ask(GetDefault<UWidgetPressedStateRegistration>());
+	Ask(GetDefault<UWidgetDisabledStateRegistration>());
+	return States;
+}
+
 void UWidget::SetIsEnabled(bool bInIsEnabled)
 {
+	const bool bChanged = bIsEnabled != bInIsEnabled;
 	bIsEnabled = bInIsEnabled;
 	if (const TSharedPtr<SWidget> Widget = GetCachedWidget())
 	{
 		Widget->SetEnabled(bInIsEnabled);
+	}
+	if (bChanged)
+	{
+		BroadcastBinaryPostStateChange(UWidgetDisabledStateRegistration::Bit, !bInIsEnabled);
 	}
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Binding/States/WidgetStateBitfield.h"
 #include "Components/SlateWrapperTypes.h"
 #include "Components/Visual.h"
 #include "GenericPlatform/ICursor.h"
@@ -32,6 +33,9 @@ ENUM_CLASS_FLAGS(EWidgetDesignFlags)
 
 /** Binds a Slate delegate to a method of this object, by a weak reference. */
 #define BIND_UOBJECT_DELEGATE(Type, Function) Type::CreateUObject(this, &ThisClass::Function)
+
+/** Tells of a widget that came into a state or left it: the states that it is in now, of those that are reported. */
+DECLARE_MULTICAST_DELEGATE_TwoParams(FOnWidgetStateBroadcast, UWidget* /*Widget*/, const FWidgetStateBitfield& /*States*/);
 
 /** Base of all widgets: an object that designers place and that makes its Slate counterpart when it is first shown. */
 UCLASS(Abstract, BlueprintType, Blueprintable, MinimalAPI)
@@ -184,6 +188,13 @@ public:
 	 */
 	UMG_API virtual void SynchronizeProperties();
 
+	/**
+	 * Tells the listener each time the widget comes into a state or leaves it.
+	 * @param bBroadcastCurrentState tells it of the states of now at once
+	 */
+	UMG_API FDelegateHandle RegisterPostStateListener(const FOnWidgetStateBroadcast::FDelegate& ListenerDelegate, bool bBroadcastCurrentState = true);
+	UMG_API void UnregisterPostStateListener(const FDelegateHandle& ListenerDelegate);
+
 	/** True while the widget is shown in a designer. */
 	UMG_API bool IsDesignTime() const { return EnumHasAnyFlags(DesignerFlags, EWidgetDesignFlags::Designing); }
 
@@ -209,6 +220,9 @@ protected:
 	/** Called after the Slate side was made and synchronised. */
 	UMG_API virtual void OnWidgetRebuilt() {}
 
+	/** Tells the listeners that the widget is in the state now, or is not any more. */
+	UMG_API void BroadcastBinaryPostStateChange(const FWidgetStateBitfield& StateChange, bool bInValue);
+
 	/** The Slate side of something that must be there. */
 	TWeakPtr<SWidget> MyWidget;
 
@@ -219,6 +233,10 @@ private:
 	friend class UUserWidget;
 
 	void ApplyRenderTransform();
+	FWidgetStateBitfield AskForStates() const;
+
+	/** Who listens to changes of state; most widgets have none. */
+	TUniquePtr<FOnWidgetStateBroadcast> PostStateListeners;
 
 	/** Whether the widget can be used. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Behavior", meta = (AllowPrivateAccess = "true"))
