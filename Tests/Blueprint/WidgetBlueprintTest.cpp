@@ -9,6 +9,8 @@
 #include "HAL/PlatformProcess.h"
 #include "TemporaryContent.h"
 #include "UObject/UnrealType.h"
+#include "Widgets/HxButton.h"
+#include "Widgets/HxButtonGroup.h"
 #include "gmock/gmock.h"
 
 namespace
@@ -104,6 +106,28 @@ namespace
 		UClass* Class = Load(TEXT("UnknownClass"), "{ \"Root\": { \"Class\": \"VerticalBox\", \"Children\": [\n { \"Class\": \"NoSuchWidget\" },\n { \"Class\": \"TextBlock\", \"Name\": \"Label\", \"Properties\": { \"Text\": \"there\" } } ] } }");
 		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
 		EXPECT_THAT(Host::ToStd(Unknown.GetLastLine()), testing::HasSubstr("UnknownClass.widget.json:2:"));
+	}
+
+	TEST_F(FWidgetBlueprintTest, PropertiesReferToWidgetsByName)
+	{
+		UClass* Class = Load(TEXT("References"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "HxButtonGroup", "Name": "Group", "Properties": { "ButtonList": [ "Second", "First" ] } },
+			{ "Class": "HxButton", "Name": "First" },
+			{ "Class": "HxButton", "Name": "Second" } ] } })");
+		const UUserWidget* Widget = Show(Class);
+		const UHxButtonGroup* Group = CastChecked<UHxButtonGroup>(Widget->GetWidgetFromName(TEXT("Group")));
+		const TArray<UHxButton*> Buttons = Group->GetButtonList();
+		ASSERT_EQ(Buttons.Num(), 2);
+		EXPECT_EQ(Buttons[0], Widget->GetWidgetFromName(TEXT("Second"))) << "each instance has widgets of its own";
+		EXPECT_EQ(Buttons[1], Widget->GetWidgetFromName(TEXT("First")));
+	}
+
+	TEST_F(FWidgetBlueprintTest, ReferenceToNoWidgetIsOneLine)
+	{
+		const Host::FExpectedLog Unknown(TEXT("there is no object NoSuchButton"));
+		UClass* Class = Load(TEXT("NoReference"), "{ \"Root\": { \"Class\": \"HxButtonGroup\", \"Name\": \"Group\",\n \"Properties\": { \"ButtonList\": [ \"NoSuchButton\" ] } } }");
+		Show(Class);
+		EXPECT_THAT(Host::ToStd(Unknown.GetLastLine()), testing::HasSubstr("NoReference.widget.json:2:"));
 	}
 
 	TEST_F(FWidgetBlueprintTest, UnknownPropertyIsOneLineAndTheRestIsRead)

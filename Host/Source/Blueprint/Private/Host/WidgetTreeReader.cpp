@@ -16,6 +16,10 @@ namespace Host
 		{
 			Tree.RootWidget = ReadWidget(RootNode);
 		}
+		for (const FUnreadProperties& Entry : Unread)
+		{
+			FPropertyJson::ReadObject(Entry.Properties, Entry.Object, [](const FString& Message) { ReportBlueprintError(Message); });
+		}
 	}
 
 	UWidget* FWidgetTreeReader::ReadWidget(const FJsonNode& Node)
@@ -36,7 +40,7 @@ namespace Host
 		{
 			NamedSlots.Add(Widget->GetFName());
 		}
-		ReadProperties(Node.Find(TEXT("Properties")), *Widget);
+		ReadPropertiesLater(Node.Find(TEXT("Properties")), *Widget);
 		ReadChildren(Node.Find(TEXT("Children")), *Widget);
 		ReadNamedSlots(Node.Find(TEXT("NamedSlots")), *Widget);
 		return Widget;
@@ -86,11 +90,11 @@ namespace Host
 		return FName(*Name);
 	}
 
-	void FWidgetTreeReader::ReadProperties(const FJsonNode& Properties, UObject& Object)
+	void FWidgetTreeReader::ReadPropertiesLater(const FJsonNode& Properties, UObject& Object)
 	{
 		if (Properties)
 		{
-			FPropertyJson::ReadObject(Properties, &Object, [](const FString& Message) { ReportBlueprintError(Message); });
+			Unread.Add({ Properties, &Object });
 		}
 	}
 
@@ -119,7 +123,7 @@ namespace Host
 				ReportBlueprintError(ChildNode, FString::Printf(TEXT("a %s takes one child only."), *Parent.GetClass()->GetName()));
 				continue;
 			}
-			ReadProperties(ChildNode.Find(TEXT("Slot")), *ChildSlot);
+			ReadPropertiesLater(ChildNode.Find(TEXT("Slot")), *ChildSlot);
 		}
 	}
 

@@ -29,12 +29,20 @@ namespace Host
 		UWidget* ReadWidget(const FJsonNode& Node);
 		UClass* ReadClass(const FJsonNode& Node);
 		FName ReadName(const FJsonNode& Node, const UClass& Class);
-		void ReadProperties(const FJsonNode& Properties, UObject& Object);
+		void ReadPropertiesLater(const FJsonNode& Properties, UObject& Object);
 		void ReadChildren(const FJsonNode& Children, UWidget& Parent);
 		void ReadNamedSlots(const FJsonNode& Slots, UWidget& Widget);
 		void ReportUnknownMembers(const FJsonNode& Node);
 
+		/** Properties of a widget or of its place, to be read once all widgets are there: they may name widgets further down. */
+		struct FUnreadProperties
+		{
+			FJsonNode Properties;
+			UObject* Object;
+		};
+
 		UWidgetTree& Tree;
+		TArray<FUnreadProperties> Unread;
 		TArray<FName> NamedSlots;
 	};
 }

@@ -6,7 +6,8 @@ namespace Host
 {
 	UObject* FPropertyJsonReader::LoadReference(const FJsonNode& Node, const FString& ReferencePath)
 	{
-		UObject* Object = StaticLoadObject(UObject::StaticClass(), nullptr, *ReferencePath, nullptr, LOAD_Quiet);
+		const bool bBeside = Owner && !ReferencePath.Contains(TEXT("/"));
+		UObject* Object = bBeside ? StaticFindObject(UObject::StaticClass(), Owner->GetOuter(), *ReferencePath) : StaticLoadObject(UObject::StaticClass(), nullptr, *ReferencePath, nullptr, LOAD_Quiet);
 		if (!Object)
 		{
 			Fail(Node, FString::Printf(TEXT("there is no object %s"), *ReferencePath));

@@ -25,8 +25,9 @@ namespace Host
 	 * colours              "#RRGGBB[AA]" in sRGB, or their components
 	 * arrays, sets         arrays
 	 * maps                 arrays of [key, value] pairs, or objects
-	 * object references    paths; null for none. An instanced one may be an object {"Class": ..., "Name": ..., "Properties": {...}},
-	 *                      where the class may be left out when an object is there already
+	 * object references    paths; null for none. A path without a slash names an object beside the owner, in the same outer. An
+	 *                      instanced one may be an object {"Class": ..., "Name": ..., "Properties": {...}}, where the class may
+	 *                      be left out when an object is there already
 	 * soft references      paths, which are not followed
 	 */
 	class COREUOBJECT_API FPropertyJson
