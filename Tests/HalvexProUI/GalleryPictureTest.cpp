@@ -34,6 +34,20 @@ namespace
 			Loop.GetWindow()->SetDPIScaleFactor(Scale);
 		}
 
+		void ShowScreen(const TCHAR* Name)
+		{
+			UClass* Class = LoadObject<UClass>(nullptr, *FString::Printf(TEXT("/HalvexPro/Screens/%s.%s_C"), Name, Name));
+			CreateWidget<UUserWidget>(GEngine->GetGameInstance(), Class)->AddToViewport();
+			Loop.RunUntilIdle();
+		}
+
+		void ExpectPicture(const FString& Name)
+		{
+			Host::FPicture Picture;
+			ASSERT_TRUE(Loop.TakePicture(Picture));
+			Host::ExpectGolden(Name, Picture);
+		}
+
 		virtual void TearDown() override
 		{
 			UseStyle(TEXT("UIStyle_Hx_Light"));
@@ -47,12 +61,8 @@ namespace
 		const FGalleryCase& Case = GetParam();
 		UseStyle(Case.Style);
 		UseWindow(FVector2D(1280.0, 800.0) * Case.Scale, static_cast<float>(Case.Scale));
-		UClass* Class = LoadObject<UClass>(nullptr, *FString::Printf(TEXT("/HalvexPro/Screens/%s.%s_C"), Case.Screen, Case.Screen));
-		CreateWidget<UUserWidget>(GEngine->GetGameInstance(), Class)->AddToViewport();
-		Loop.RunUntilIdle();
-		Host::FPicture Picture;
-		ASSERT_TRUE(Loop.TakePicture(Picture));
-		Host::ExpectGolden(FString::Printf(TEXT("%s-%s-%dx"), Case.Screen, Case.Style, Case.Scale), Picture);
+		ShowScreen(Case.Screen);
+		ExpectPicture(FString::Printf(TEXT("%s-%s-%dx"), Case.Screen, Case.Style, Case.Scale));
 	}
 
 	INSTANTIATE_TEST_SUITE_P(Screens, FGalleryPictureTest, testing::Values(
@@ -60,9 +70,63 @@ namespace
 		FGalleryCase{ TEXT("Gallery"), TEXT("UIStyle_Hx_Dark"), 1 }, FGalleryCase{ TEXT("Gallery"), TEXT("UIStyle_Hx_Dark"), 2 },
 		FGalleryCase{ TEXT("Type"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Type"), TEXT("UIStyle_Hx_Dark"), 1 },
 		FGalleryCase{ TEXT("Icons"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Icons"), TEXT("UIStyle_Hx_Dark"), 1 },
-		FGalleryCase{ TEXT("Shapes"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Shapes"), TEXT("UIStyle_Hx_Dark"), 1 }),
+		FGalleryCase{ TEXT("Shapes"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Shapes"), TEXT("UIStyle_Hx_Dark"), 1 },
+		FGalleryCase{ TEXT("Buttons"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Buttons"), TEXT("UIStyle_Hx_Dark"), 1 },
+		FGalleryCase{ TEXT("Groups"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Groups"), TEXT("UIStyle_Hx_Dark"), 1 },
+		FGalleryCase{ TEXT("Tiles"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Tiles"), TEXT("UIStyle_Hx_Dark"), 1 }),
 		[](const testing::TestParamInfo<FGalleryCase>& Info)
 		{
 			return Host::ToStd(FString::Printf(TEXT("%s_%s_%dx"), Info.param.Screen, Info.param.Style, Info.param.Scale));
+		});
+
+	/** Buttons under the hands of a user, in a style. */
+	class FButtonPictureTest : public FGalleryPictureTest
+	{
+	protected:
+		void ShowButtons()
+		{
+			UseStyle(GetParam().Style);
+			UseWindow(FVector2D(1280.0, 800.0), 1.0f);
+			ShowScreen(GetParam().Screen);
+		}
+
+		FVector2D FindButton(const TCHAR* Sample) const
+		{
+			return Driver.GetMiddle(*Driver.Find(FString(Sample) + TEXT("/SelectableButton")));
+		}
+	};
+
+	TEST_P(FButtonPictureTest, Hovered)
+	{
+		ShowButtons();
+		Driver.MoveTo(FindButton(TEXT("FollowHover")));
+		ExpectPicture(FString::Printf(TEXT("Hovered-%s-1x"), GetParam().Style));
+	}
+
+	TEST_P(FButtonPictureTest, Pressed)
+	{
+		ShowButtons();
+		Driver.MoveTo(FindButton(TEXT("ModeToggle")));
+		Driver.Press();
+		ExpectPicture(FString::Printf(TEXT("Pressed-%s-1x"), GetParam().Style));
+		Driver.Release();
+	}
+
+	TEST_P(FButtonPictureTest, Selected)
+	{
+		ShowButtons();
+		for (const TCHAR* Sample : { TEXT("ModeNone"), TEXT("ModeToggle"), TEXT("ModeBlocked"), TEXT("FollowSelection"), TEXT("FollowBoth") })
+		{
+			Driver.ClickAt(FindButton(Sample));
+		}
+		Driver.MoveTo(FVector2D(1000.0, 60.0));
+		ExpectPicture(FString::Printf(TEXT("Selected-%s-1x"), GetParam().Style));
+	}
+
+	INSTANTIATE_TEST_SUITE_P(Buttons, FButtonPictureTest, testing::Values(
+		FGalleryCase{ TEXT("Buttons"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Buttons"), TEXT("UIStyle_Hx_Dark"), 1 }),
+		[](const testing::TestParamInfo<FGalleryCase>& Info)
+		{
+			return Host::ToStd(FString(Info.param.Style));
 		});
 }

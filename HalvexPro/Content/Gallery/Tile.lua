@@ -1,0 +1,8 @@
+-- A large button with an icon, a title and a line.
+
+function PreConstruct(self, IsDesignTime)
+	self.Label:SetText(self.Caption)
+	self.Details:SetText(self.Line)
+	self.Icon:SetIconByHandler({ IconStyle = "Solid", IconName = self.Glyph, IconColor = { ColorID = "Primary" } })
+	self.Icon:SetContrastIconByHandler({ IconStyle = "Solid", IconName = self.Glyph, IconColor = { ColorID = "Secondary" } })
+end
