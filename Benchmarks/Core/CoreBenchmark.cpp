@@ -1,4 +1,5 @@
 #include "CoreMinimal.h"
+#include "Misc/ConfigCacheIni.h"
 #include "benchmark/benchmark.h"
 
 #include <algorithm>
@@ -411,3 +412,21 @@ static void StringPrintf(benchmark::State& State)
 	State.SetItemsProcessed((int64)State.iterations());
 }
 BENCHMARK(StringPrintf);
+
+/** One setting among so many of the user's is changed, in memory. */
+static void ConfigSet(benchmark::State& State)
+{
+	const FString File = TEXT("BenchmarkSettings");
+	const int32 NumKeys = (int32)State.range(0);
+	for (int32 Index = 0; Index < NumKeys; ++Index)
+	{
+		GConfig->SetInt(TEXT("Benchmark"), *FString::Printf(TEXT("Setting%d"), Index), Index, File);
+	}
+	int32 Value = 0;
+	for (auto _ : State)
+	{
+		GConfig->SetInt(TEXT("Benchmark"), TEXT("Setting50"), ++Value, File);
+	}
+	GConfig->EmptySection(TEXT("Benchmark"), File);
+}
+BENCHMARK(ConfigSet)->Arg(100)->Arg(1000);

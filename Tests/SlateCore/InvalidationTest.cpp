@@ -158,6 +158,33 @@ TEST(InvalidationTest, RemovalLeavesDamageAndNothingElse)
 	EXPECT_EQ(Grid.At(8, 9).NumPainted, 1);
 }
 
+TEST(InvalidationTest, RemovalOfAMarkedWidgetForgetsNoMarkOfItsSiblings)
+{
+	FLeafGrid Grid;
+	FTestTree Tree(Grid.Column);
+	Tree.Run();
+	Grid.At(3, 9).SetColor(FLinearColor::Red);
+	Grid.At(5, 9).SetSize(FVector2D(14.0, 10.0));
+	Grid.At(9, 9).SetColor(FLinearColor::Red);
+	Grid.Rows[9]->RemoveSlot(Grid.Leaves[99]);
+	Tree.Run();
+	EXPECT_EQ(Grid.At(3, 9).NumPainted, 2);
+	EXPECT_EQ(Tree.GetElements()[93].Colour, FColor(255, 0, 0));
+	EXPECT_EQ(Tree.GetElements()[95].Bounds, MakePixelRect(50, 90, 64, 100));
+	EXPECT_EQ(Tree.GetElements().Num(), 99);
+
+	// Marks work as before, in what stayed and in what comes back.
+	Grid.At(3, 9).SetColor(FLinearColor::Green);
+	Grid.At(9, 9).SetColor(FLinearColor::Green);
+	Grid.Rows[8]->AddSlot().AutoWidth()[Grid.Leaves[99]];
+	Tree.Run();
+	EXPECT_EQ(Tree.GetElements()[90].Colour, FColor(0, 255, 0));
+	EXPECT_EQ(Tree.GetElements()[94].Colour, FColor(0, 255, 0));
+	Grid.At(9, 9).SetColor(FLinearColor::Red);
+	Tree.Run();
+	EXPECT_EQ(Tree.GetElements()[90].Colour, FColor(255, 0, 0));
+}
+
 TEST(InvalidationTest, AddedWidgetIsDamageAloneInItsPlace)
 {
 	FLeafGrid Grid;

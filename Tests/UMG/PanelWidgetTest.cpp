@@ -80,6 +80,25 @@ namespace
 		EXPECT_EQ(Text->Slot, nullptr);
 	}
 
+	TEST_F(FPanelWidgetTest, ClearedChildrenKnowNoPanelAndCanBeAddedAgain)
+	{
+		UVerticalBox* Box = NewObject<UVerticalBox>();
+		const TSharedRef<SWidget> Slate = Box->TakeWidget();
+		UTextBlock* First = NewObject<UTextBlock>();
+		UTextBlock* Last = NewObject<UTextBlock>();
+		UPanelSlot* FirstSlot = Box->AddChild(First);
+		Box->AddChild(Last);
+		Box->ClearChildren();
+		EXPECT_EQ(Box->GetChildrenCount(), 0);
+		EXPECT_EQ(FirstSlot->Parent, nullptr);
+		EXPECT_EQ(FirstSlot->Content, nullptr);
+		EXPECT_EQ(First->GetParent(), nullptr);
+		EXPECT_FALSE(First->IsConstructed());
+		EXPECT_FALSE(Last->IsConstructed());
+		Box->AddChild(Last);
+		EXPECT_EQ(Slate->GetChildren()->Num(), 1);
+	}
+
 	TEST_F(FPanelWidgetTest, SizeBoxOverridesTheSizeAndGivesItBack)
 	{
 		USizeBox* Box = NewObject<USizeBox>();

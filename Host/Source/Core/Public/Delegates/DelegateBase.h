@@ -62,7 +62,7 @@ public:
 	template <typename UserClass, typename FunctorType, typename... VarTypes>
 	[[nodiscard]] static TDelegate CreateWeakLambda(const UserClass* Object, FunctorType&& Functor, VarTypes&&... Vars)
 	{
-		return Make(Host::TObjectGuard<UserClass>{ Object, Object }, static_cast<FunctorType&&>(Functor), static_cast<VarTypes&&>(Vars)...);
+		return Make(Host::TObjectGuard<UserClass>{ Object }, static_cast<FunctorType&&>(Functor), static_cast<VarTypes&&>(Vars)...);
 	}
 
 	/** Calls a method of a reflected object as long as that lives. */
@@ -82,7 +82,7 @@ public:
 	[[nodiscard]] static TDelegate CreateUFunction(UserClass* Object, const NameType& FunctionName)
 	{
 		check(Object != nullptr);
-		return Make(Host::TObjectGuard<UserClass>{ Object, Object }, Host::TReflectedCall<UserClass, Ret, ParamTypes...>{ Object, Object->FindFunctionChecked(FunctionName) });
+		return Make(Host::TObjectGuard<UserClass>{ Object }, Host::TReflectedCall<UserClass, Ret, ParamTypes...>{ Object, Object->FindFunctionChecked(FunctionName) });
 	}
 
 	/** Calls a method of an object which whoever binds it keeps alive. */
@@ -210,7 +210,7 @@ private:
 	template <typename UserClass, typename MethodType, typename... VarTypes>
 	static TDelegate MakeForObject(UserClass* Object, MethodType Method, VarTypes&&... Vars)
 	{
-		return Make(Host::TObjectGuard<UserClass>{ Object, Object }, Host::TBoundMethod<UserClass, MethodType>{ Object, Method }, static_cast<VarTypes&&>(Vars)...);
+		return Make(Host::TObjectGuard<UserClass>{ Object }, Host::TBoundMethod<UserClass, MethodType>{ Object, Method }, static_cast<VarTypes&&>(Vars)...);
 	}
 
 	template <typename UserClass, typename MethodType, typename... VarTypes>

@@ -105,10 +105,9 @@ namespace Host
 	{
 		// The weak pointer is of a higher floor, and complete where a delegate is bound.
 		typename TLate<FWeakObjectPtr, UserClass>::FType Weak;
-		const void* Object;
 
 		bool Pin() const { return Weak.IsValid(); }
-		const void* GetObject() const { return Weak.IsValid(true) ? Object : nullptr; }
+		const void* GetObject() const { return Weak.Get(true); }
 	};
 
 	/** The call needs a shared object, which is held weakly and kept alive for the call. */
@@ -215,6 +214,6 @@ namespace Host
 
 		GuardType Guard;
 		CallableType Callable;
-		TTuple<VarTypes...> Payload;
+		[[no_unique_address]] TTuple<VarTypes...> Payload;
 	};
 }

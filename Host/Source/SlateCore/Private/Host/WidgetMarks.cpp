@@ -170,7 +170,11 @@ namespace Host
 		}
 		if (Child.State.bQueued)
 		{
-			UnlinkDirty(Parent.State, Child);
+			// The parent now looks at all of its children, which puts those with dirt back into the queue.
+			EmptyQueue(Parent.State);
+			// The painting pass may have taken the queue over.
+			Child.State.NextDirty = nullptr;
+			Child.State.bQueued = false;
 		}
 		Child.State.Parent = nullptr;
 		Mark(Parent, EWidgetDirt::Prepass | EWidgetDirt::Arrange);
@@ -191,19 +195,14 @@ namespace Host
 		Child.State.bArranged = false;
 	}
 
-	void FWidgetPasses::UnlinkDirty(FWidgetState& Parent, SWidget& Child)
+	void FWidgetPasses::EmptyQueue(FWidgetState& Parent)
 	{
-		SWidget** Link = &Parent.FirstDirty;
-		while (*Link && *Link != &Child)
+		while (SWidget* Child = Parent.FirstDirty)
 		{
-			Link = &(*Link)->State.NextDirty;
+			Parent.FirstDirty = Child->State.NextDirty;
+			Child->State.NextDirty = nullptr;
+			Child->State.bQueued = false;
 		}
-		if (*Link)
-		{
-			*Link = Child.State.NextDirty;
-		}
-		Child.State.NextDirty = nullptr;
-		Child.State.bQueued = false;
 	}
 
 	void FWidgetPasses::DropFromView(SWidget& Child)

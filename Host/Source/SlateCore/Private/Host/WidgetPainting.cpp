@@ -290,7 +290,7 @@ namespace Host
 			{
 				continue;
 			}
-			if (Index < NumBefore)
+			if (Index < NumBefore && !(bBoth && Kept[Index].Bounds == Painted[Index].Bounds))
 			{
 				Damage(Kept[Index].Bounds);
 			}

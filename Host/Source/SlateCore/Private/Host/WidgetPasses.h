@@ -68,7 +68,7 @@ namespace Host
 		/** Takes over the dirt of a child that the pass visited, for the passes to come. */
 		static void Inherit(FWidgetState& Parent, SWidget& Child, EWidgetDirt Which);
 		static void UnlinkArranged(FWidgetState& Parent, SWidget& Child);
-		static void UnlinkDirty(FWidgetState& Parent, SWidget& Child);
+		static void EmptyQueue(FWidgetState& Parent);
 
 		static bool PrepassChildren(SWidget& Widget, float Scale);
 		static bool PrepassDirtyChildren(SWidget& Widget);

@@ -43,19 +43,24 @@ bool UPanelWidget::RemoveChildAt(int32 Index)
 		return false;
 	}
 	UPanelSlot* RemovedSlot = Slots[Index];
-	if (RemovedSlot->Content)
-	{
-		RemovedSlot->Content->Slot = nullptr;
-	}
 	Slots.RemoveAt(Index);
-	OnSlotRemoved(RemovedSlot);
+	ReleaseSlot(*RemovedSlot);
+	return true;
+}
+
+void UPanelWidget::ReleaseSlot(UPanelSlot& RemovedSlot)
+{
+	if (RemovedSlot.Content)
+	{
+		RemovedSlot.Content->Slot = nullptr;
+	}
+	OnSlotRemoved(&RemovedSlot);
 
 	// The child may be shown elsewhere again, so it keeps its Slate side only if somebody else holds it.
 	const bool bReleaseChildren = true;
-	RemovedSlot->ReleaseSlateResources(bReleaseChildren);
-	RemovedSlot->Parent = nullptr;
-	RemovedSlot->Content = nullptr;
-	return true;
+	RemovedSlot.ReleaseSlateResources(bReleaseChildren);
+	RemovedSlot.Parent = nullptr;
+	RemovedSlot.Content = nullptr;
 }
 
 UPanelSlot* UPanelWidget::AddChild(UWidget* Content)
@@ -110,9 +115,12 @@ bool UPanelWidget::HasAnyChildren() const
 
 void UPanelWidget::ClearChildren()
 {
-	for (int32 Index = Slots.Num() - 1; Index >= 0; --Index)
+	const TArray<TObjectPtr<UPanelSlot>> Removed = MoveTemp(Slots);
+	Slots.Empty();
+	// The first ones first: Slate panels find those at once.
+	for (UPanelSlot* RemovedSlot : Removed)
 	{
-		RemoveChildAt(Index);
+		ReleaseSlot(*RemovedSlot);
 	}
 }
 

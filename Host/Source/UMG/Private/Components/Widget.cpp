@@ -53,23 +53,24 @@ void UWidget::SetRenderTranslation(FVector2D Translation)
 void UWidget::SetRenderTransformPivot(FVector2D Pivot)
 {
 	RenderTransformPivot = Pivot;
-	if (const TSharedPtr<SWidget> Widget = GetCachedWidget())
-	{
-		Widget->SetRenderTransformPivot(Pivot);
-	}
+	ApplyRenderTransform();
 }
 
 void UWidget::ApplyRenderTransform()
 {
-	if (const TSharedPtr<SWidget> Widget = GetCachedWidget())
+	const TSharedPtr<SWidget> Widget = GetCachedWidget();
+	if (!Widget)
 	{
-		TOptional<FSlateRenderTransform> Transform;
-		if (!RenderTransform.IsIdentity())
-		{
-			Transform = RenderTransform.ToSlateRenderTransform();
-		}
-		Widget->SetRenderTransform(Transform);
+		return;
 	}
+	TOptional<FSlateRenderTransform> Transform;
+	if (!RenderTransform.IsIdentity())
+	{
+		// The pivot means nothing without a transform, and few widgets have one: the others need no room for either.
+		Widget->SetRenderTransformPivot(RenderTransformPivot);
+		Transform = RenderTransform.ToSlateRenderTransform();
+	}
+	Widget->SetRenderTransform(Transform);
 }
 
 FDelegateHandle UWidget::RegisterPostStateListener(const FOnWidgetStateBroadcast::FDelegate& ListenerDelegate, bool bBroadcastCurrentState)
@@ -340,7 +341,6 @@ void UWidget::SynchronizeProperties()
 	Widget->SetVisibility(ConvertSerializedVisibilityToRuntime(Visibility));
 	Widget->SetClipping(Clipping);
 	Widget->SetRenderOpacity(RenderOpacity);
-	Widget->SetRenderTransformPivot(RenderTransformPivot);
 	ApplyRenderTransform();
 	if (!ToolTipText.IsEmpty())
 	{

@@ -77,4 +77,8 @@ protected:
 
 	/** Whether the panel takes more than one child. */
 	bool bCanHaveMultipleChildren = true;
+
+private:
+	/** Takes apart a slot that is no longer among the slots. */
+	void ReleaseSlot(UPanelSlot& RemovedSlot);
 };

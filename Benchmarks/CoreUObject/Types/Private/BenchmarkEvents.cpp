@@ -1,0 +1,6 @@
+#include "BenchmarkEvents.h"
+
+void UBenchmarkListener::Receive(int32 Value)
+{
+	Sum += Value;
+}
