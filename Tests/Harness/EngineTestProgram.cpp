@@ -52,6 +52,8 @@ namespace Host
 	void FEngineTest::TearDown()
 	{
 		GEngine->GameViewport->RemoveAllViewportWidgets();
+		// The next test finds the pointer where a new program has it.
+		Driver.MoveTo(FVector2D::ZeroVector);
 		Loop.RunUntilIdle();
 	}
 }
