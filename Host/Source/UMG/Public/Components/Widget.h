@@ -17,6 +17,7 @@ class SObjectWidget;
 class ULocalPlayer;
 class UPanelSlot;
 class UPanelWidget;
+class UWidget;
 
 /** What the designer does with a widget. */
 UENUM()
