@@ -1,10 +1,11 @@
 #include "EngineTest.h"
 
+#include "KitReflection.h"
 #include "Style/HalvexStyleModels.h"
-#include "UObject/UnrealType.h"
 
 namespace
 {
+	using namespace KitReflection;
 	using FStyleRecordsTest = Host::FEngineTest;
 
 	/** Names of the members in order, joined by spaces; checks that each is in the category. */
@@ -18,16 +19,6 @@ namespace
 			Names += (Names.empty() ? "" : " ") + Host::ToStd(It->GetName());
 		}
 		return Names;
-	}
-
-	std::string GetMeta(const UStruct* Struct, const TCHAR* Member, const TCHAR* Key)
-	{
-		return Host::ToStd(Struct->FindPropertyByName(FName(Member))->GetMetaData(Key));
-	}
-
-	bool HasMeta(const UStruct* Struct, const TCHAR* Member, const TCHAR* Key)
-	{
-		return Struct->FindPropertyByName(FName(Member))->HasMetaData(Key);
 	}
 
 	TEST_F(FStyleRecordsTest, ColourModesAreNamedForDesigners)
