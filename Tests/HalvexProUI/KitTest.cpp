@@ -44,6 +44,7 @@ void FKitTest::TearDown()
 	Screen.Reset();
 	Recorder.Reset();
 	Host::FEngineTest::TearDown();
+	MoveAway();
 }
 
 void FKitTest::StartScreen()
@@ -78,7 +79,8 @@ void FKitTest::ShowInDesigner()
 
 void FKitTest::MoveAway()
 {
-	Driver.MoveTo(FVector2D(795.0, 595.0));
+	// Out of the window, so that nothing is hovered, in the tests that follow neither.
+	Driver.MoveTo(FVector2D(-10.0, -10.0));
 }
 
 void FKitTest::Listen(UHxButton& Button)
