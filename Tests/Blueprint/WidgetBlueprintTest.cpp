@@ -44,6 +44,7 @@ namespace
 		}
 
 		Host::FTemporaryContent Content{ TEXT("/Blueprints/") };
+		int32 NumImports = 0;
 	};
 
 	const char* const OneText = R"({ "Root": { "Class": "Border", "Children": [ { "Class": "TextBlock", "Name": "Label", "Properties": { "Text": "Hello" } } ] } })";
@@ -137,11 +138,50 @@ namespace
 		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
 	}
 
-	TEST_F(FWidgetBlueprintTest, BrokenFileNamesThePlace)
+	TEST_F(FWidgetBlueprintTest, BrokenFileIsOneLineThatNamesThePlace)
 	{
 		const Host::FExpectedLog Broken(TEXT("Broken.widget.json:1:"));
-		const Host::FExpectedLog Failed(TEXT("/Blueprints/Broken.Broken_C"), Host::FExpectedLog::AnyCount);
 		EXPECT_EQ(Load(TEXT("Broken"), "{ \"Root\": }"), nullptr);
+	}
+
+	TEST_F(FWidgetBlueprintTest, MissingFileIsOneLine)
+	{
+		const Host::FExpectedLog Missing(TEXT("Failed to find object 'Class /Blueprints/Nowhere.Nowhere_C': there is no file for /Blueprints/Nowhere"));
+		EXPECT_EQ(LoadObject<UClass>(nullptr, TEXT("/Blueprints/Nowhere.Nowhere_C")), nullptr);
+	}
+
+	TEST_F(FWidgetBlueprintTest, UnknownParentIsOneLineAndTheRestIsMade)
+	{
+		const Host::FExpectedLog Unknown(TEXT("NoParent.widget.json:1:"));
+		UClass* Class = Load(TEXT("NoParent"), R"({ "Parent": "/Script/UMG.NoSuchWidget", "Root": { "Class": "TextBlock", "Name": "Label", "Properties": { "Text": "there" } } })");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
+	}
+
+	TEST_F(FWidgetBlueprintTest, UnknownClassInAGraphIsOneLine)
+	{
+		const Host::FExpectedLog Unknown(TEXT("/Blueprints/GraphClass.lua:2: there is no class '/Blueprints/Nowhere3.Nowhere3_C'"));
+		UClass* Class = Load(TEXT("GraphClass"), OneText, "function Construct(self)\n Class('/Blueprints/Nowhere3.Nowhere3_C')\nend");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "Hello");
+	}
+
+	TEST_F(FWidgetBlueprintTest, MissingInnerBlueprintIsOneLineAndTheRestIsMade)
+	{
+		const Host::FExpectedLog Unknown(TEXT("there is no class '/Blueprints/Nowhere2.Nowhere2"));
+		UClass* Class = Load(TEXT("NoInner"), "{ \"Root\": { \"Class\": \"VerticalBox\", \"Children\": [\n { \"Class\": \"/Blueprints/Nowhere2.Nowhere2_C\" },\n { \"Class\": \"TextBlock\", \"Name\": \"Label\", \"Properties\": { \"Text\": \"there\" } } ] } }");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
+		EXPECT_THAT(Host::ToStd(Unknown.GetLastLine()), testing::HasSubstr("NoInner.widget.json:2:"));
+	}
+
+	TEST_F(FWidgetBlueprintTest, ImportDoesNotLeaveTheMount)
+	{
+		for (const char* Path : { "/Blueprints/../Secret", "/Elsewhere/Secret", "Secret" })
+		{
+			const FString Name = FString::Printf(TEXT("Import%d"), NumImports++);
+			const std::string Graph = std::string("local Kit = Import('") + Path + "')";
+			const Host::FExpectedLog Refused(TEXT(".lua"));
+			EXPECT_EQ(GetTextOf(*Show(Load(*Name, OneText, Graph.c_str())), TEXT("Label")), "Hello");
+			EXPECT_THAT(Host::ToStd(Refused.GetLastLine()), testing::HasSubstr(Path));
+		}
 	}
 
 	TEST_F(FWidgetBlueprintTest, ScriptErrorNamesFileAndLineAndTheScreenGoesOn)

@@ -127,6 +127,19 @@ TEST_F(MountsTest, AMountedFolderMayItselfBeALink)
 	FMounts::Remove(TEXT("/Linked/"));
 }
 
+TEST_F(MountsTest, FilesThatAnAssetNamesStayInItsMount)
+{
+	const FString Asset = TEXT("/Test/Widgets/Style.Style");
+	EXPECT_TRUE(FMounts::IsInMountOf(Asset, Folder / TEXT("Content/Widgets/Style.asset.json")));
+	EXPECT_TRUE(FMounts::IsInMountOf(Asset, Folder / TEXT("Content/Widgets/../Missing.ttf")));
+	EXPECT_FALSE(FMounts::IsInMountOf(Asset, Folder / TEXT("Content/Widgets/../../Secret.asset.json")));
+	EXPECT_FALSE(FMounts::IsInMountOf(Asset, Folder / TEXT("Content/../Missing.ttf")));
+	EXPECT_FALSE(FMounts::IsInMountOf(TEXT("/Elsewhere/Style.Style"), Folder / TEXT("Content/Widgets/Style.asset.json")));
+	const std::string Link = ToUtf8(Folder / TEXT("Content/Link.ttf"));
+	ASSERT_EQ(0, symlink(ToUtf8(Folder / TEXT("Secret.asset.json")).c_str(), Link.c_str()));
+	EXPECT_FALSE(FMounts::IsInMountOf(Asset, UTF8_TO_TCHAR(Link.c_str())));
+}
+
 TEST_F(MountsTest, UnfitRootsAreRefused)
 {
 	const FExpectedLog Expected(TEXT("a root is written"), 5);

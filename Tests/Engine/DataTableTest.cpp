@@ -1,8 +1,6 @@
 #include "EngineTest.h"
 
 #include "Engine/DataTable.h"
-#include "Engine/Font.h"
-#include "Engine/Texture2D.h"
 #include "Style/HalvexStyleModels.h"
 #include "TemporaryContent.h"
 #include "gmock/gmock.h"
@@ -42,7 +40,6 @@ namespace
 	TEST_F(FDataTableTest, UnknownRowStructureIsRefused)
 	{
 		const Host::FExpectedLog Refused(TEXT("is no structure of table rows"));
-		const Host::FExpectedLog Failed(TEXT("/Tables/Struct.Struct"), Host::FExpectedLog::AnyCount);
 		EXPECT_EQ(Load(TEXT("Struct"), R"({ "RowStruct": "/Script/CoreUObject.LinearColor", "Rows": {} })"), nullptr);
 		EXPECT_THAT(Host::ToStd(Refused.GetLastLine()), testing::HasSubstr("Struct.table.json:1:"));
 	}
@@ -69,11 +66,38 @@ namespace
 		EXPECT_TRUE(Table->GetRowMap().IsEmpty());
 	}
 
-	TEST_F(FDataTableTest, CorruptPictureIsOneLine)
+	TEST_F(FDataTableTest, MissingTableIsOneLine)
 	{
-		Content.Write(TEXT("Corrupt.png"), "\x89PNG\r\n\x1a\nnothing of the kind");
-		const Host::FExpectedLog Refused(TEXT("Corrupt.png"), Host::FExpectedLog::AnyCount);
-		EXPECT_EQ(LoadObject<UTexture2D>(nullptr, TEXT("/Tables/Corrupt.Corrupt")), nullptr);
-		EXPECT_GE(Refused.GetCount(), 1);
+		const Host::FExpectedLog Missing(TEXT("Failed to find object 'DataTable /Tables/Nowhere.Nowhere': there is no file for /Tables/Nowhere"));
+		EXPECT_EQ(LoadObject<UDataTable>(nullptr, TEXT("/Tables/Nowhere.Nowhere")), nullptr);
+	}
+
+	TEST_F(FDataTableTest, BrokenFileIsOneLineThatNamesThePlace)
+	{
+		const Host::FExpectedLog Broken(TEXT("Broken.table.json:2:"));
+		EXPECT_EQ(Load(TEXT("Broken"), "{ \"RowStruct\": \"/Script/HalvexProUI.FontIconDatatableRow\",\n \"Rows\": }"), nullptr);
+	}
+
+	TEST_F(FDataTableTest, TableWithoutRowsIsOneLine)
+	{
+		const Host::FExpectedLog Broken(TEXT("NoRows.table.json:1:1: \"Rows\" must be an object"));
+		EXPECT_EQ(Load(TEXT("NoRows"), R"({ "RowStruct": "/Script/HalvexProUI.FontIconDatatableRow" })"), nullptr);
+	}
+
+	TEST_F(FDataTableTest, RowThatIsNoneIsOneLineAndTheOthersAreRead)
+	{
+		const UDataTable* Table = Load(TEXT("Rows"), "{ \"RowStruct\": \"/Script/HalvexProUI.FontIconDatatableRow\", \"Rows\": {\n\"a\": 17,\n\"b\": { \"Label\": 3 },\n\"c\": { \"Label\": \"There\" } } }");
+		ASSERT_TRUE(Table);
+		const Host::FExpectedLog NoRow(TEXT("Rows.table.json:2:"));
+		const Host::FExpectedLog NoText(TEXT("Rows.table.json:3:"));
+		EXPECT_EQ(Table->FindRow<FFontIconDatatableRow>(TEXT("c"), TEXT("test"))->Label, TEXT("There"));
+	}
+
+	TEST_F(FDataTableTest, RowsOfAnotherStructureAreNotGivenOut)
+	{
+		const UDataTable* Table = Load(TEXT("Other"), R"({ "RowStruct": "/Script/Engine.TableRowBase", "Rows": { "a": {} } })");
+		ASSERT_TRUE(Table);
+		const Host::FExpectedLog Wrong(TEXT("its rows are of '/Script/Engine.TableRowBase'"));
+		EXPECT_EQ(Table->FindRow<FFontIconDatatableRow>(TEXT("a"), TEXT("test")), nullptr);
 	}
 }

@@ -2,6 +2,7 @@
 
 #include "Engine/Font.h"
 #include "HalvexProUISettings.h"
+#include "Host/Mounts.h"
 #include "Style/HalvexUIStyleConfiguration.h"
 #include "UObject/UnrealType.h"
 
@@ -98,10 +99,29 @@ namespace
 		const UHalvexUIStyleConfiguration* Style = NewObject<UHalvexUIStyleConfiguration>();
 		ASSERT_TRUE(Style->FontStyle.Font);
 		EXPECT_EQ(Style->FontStyle.Font->GetPathName(), TEXT("/HalvexPro/Widgets/Fonts/Monserrat/Monserrat.Monserrat"));
+		TSet<FName> Typefaces;
+		for (const FTypefaceEntry& Entry : Style->FontStyle.Font->GetCompositeFont()->DefaultTypeface.Fonts)
+		{
+			Typefaces.Add(Entry.Name);
+		}
+		for (const TPair<FName, FHalvexFontSize>& Schema : Style->FontStyle.FontSizing)
+		{
+			EXPECT_TRUE(Typefaces.Contains(Schema.Value.Typeface)) << Host::ToStd(Schema.Key);
+		}
 		ASSERT_EQ(Style->FontIconMap.Num(), 1);
 		const FFontIconData& Icons = Style->FontIconMap[TEXT("FontAwesomeFree")];
 		EXPECT_EQ(Icons.Font->GetPathName(), TEXT("/HalvexPro/Widgets/FontIcon/FontAwesomeFree/F_FontAwesomeFree.F_FontAwesomeFree"));
 		EXPECT_EQ(Icons.FontIconList->GetPathName(), TEXT("/HalvexPro/Widgets/FontIcon/FontAwesomeFree/DT_FontAwesomeFree.DT_FontAwesomeFree"));
+	}
+
+	TEST_F(FStyleConfigurationTest, AssetsAreLookedUpForTheFirstObjectOnly)
+	{
+		// Another object has them although nobody can look anything up now.
+		Host::FMounts::Remove(TEXT("/HalvexPro/"));
+		const UHalvexUIStyleConfiguration* Style = NewObject<UHalvexUIStyleConfiguration>();
+		Host::FMounts::Add(TEXT("/HalvexPro/"), TEXT(HALVEX_PLUGIN_DIR "/Content"));
+		EXPECT_EQ(Style->FontStyle.Font, GetDefault<UHalvexUIStyleConfiguration>()->FontStyle.Font);
+		EXPECT_EQ(Style->FontIconMap[TEXT("FontAwesomeFree")].Font, GetDefault<UHalvexUIStyleConfiguration>()->FontIconMap[TEXT("FontAwesomeFree")].Font);
 	}
 
 	TEST_F(FStyleConfigurationTest, ShippedLightStyleHasTheDefaults)

@@ -41,3 +41,26 @@ TEST(RendererChoice, OpenGlWorksHeadless)
 	ASSERT_TRUE(Renderer.IsValid()) << TCHAR_TO_UTF8(*Error);
 	EXPECT_EQ(FString(Renderer->GetName()), FString(TEXT("gl")));
 }
+
+TEST(RendererChoice, InitialisingAReadyRendererChangesNothing)
+{
+	for (const ERendererChoice Choice : { ERendererChoice::Cpu, ERendererChoice::Gl })
+	{
+		FString Error;
+		const TSharedPtr<FSlateRenderer> Renderer = MakeRenderer(Choice, true, Error);
+		ASSERT_TRUE(Renderer.IsValid()) << TCHAR_TO_UTF8(*Error);
+		const TUniquePtr<FWindowSurface> Surface = Renderer->CreateSurface(FIntPoint(8, 8), nullptr);
+		ASSERT_TRUE(Surface.IsValid());
+
+		EXPECT_TRUE(Renderer->Initialize(Error));
+
+		// What was made before still draws.
+		const FPixelRect Everything[] = { FPixelRect::Make(0, 0, 8, 8) };
+		Surface->DrawFrame(FWindowFrame{ FColor(10, 20, 30), Everything, [](const FPixelRect&, FElementVisitor) {} });
+		TArray<FColor> Pixels;
+		FIntPoint Size;
+		Surface->ReadPixels(Pixels, Size);
+		ASSERT_EQ(Pixels.Num(), 64);
+		EXPECT_EQ(Pixels[0], FColor(10, 20, 30));
+	}
+}

@@ -34,8 +34,17 @@
 #include "Templates/UniquePtr.h"
 
 // Mathematics.
+#include "Math/Axis.h"
+#include "Math/Box.h"
+#include "Math/Box2D.h"
 #include "Math/Color.h"
 #include "Math/IntPoint.h"
+#include "Math/IntRect.h"
+#include "Math/Matrix.h"
+#include "Math/Plane.h"
+#include "Math/Quat.h"
+#include "Math/Rotator.h"
+#include "Math/Transform.h"
 #include "Math/UnrealMathUtility.h"
 #include "Math/Vector.h"
 #include "Math/Vector2D.h"

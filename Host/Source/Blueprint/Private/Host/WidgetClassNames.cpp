@@ -33,7 +33,8 @@ namespace Host
 		}
 		else
 		{
-			Class = LoadObject<UClass>(nullptr, Name.EndsWith(TEXT("_C")) ? *Name : *(Name + TEXT("_C")));
+			// Quietly: the caller's line says where the class is asked for.
+			Class = LoadObject<UClass>(nullptr, Name.EndsWith(TEXT("_C")) ? *Name : *(Name + TEXT("_C")), nullptr, LOAD_Quiet);
 		}
 		if (!Class)
 		{

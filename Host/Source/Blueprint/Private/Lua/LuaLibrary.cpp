@@ -23,7 +23,7 @@ namespace Host
 		{
 			luaL_checkstring(State, Index);
 			const FString Path = ToFString(State, Index);
-			UClass* Found = LoadObject<UClass>(nullptr, *Path);
+			UClass* Found = LoadObject<UClass>(nullptr, *Path, nullptr, LOAD_Quiet);
 			if (!Found)
 			{
 				luaL_error(State, "there is no class '%s'", TCHAR_TO_UTF8(*Path));
@@ -55,9 +55,10 @@ namespace Host
 			lua_pop(State, 1);
 			FString Filename;
 			FString Text;
-			if (!FMounts::FindFile(Path, TEXT(".lua"), Filename) || !FFileHelper::LoadFileToString(Text, *Filename))
+			FString Reason;
+			if (!FMounts::FindFile(Path, TEXT(".lua"), Filename, Reason) || !FFileHelper::LoadFileToString(Text, *Filename))
 			{
-				return luaL_error(State, "there is no script '%s'", TCHAR_TO_UTF8(*Path));
+				return luaL_error(State, "there is no script '%s'%s%s", TCHAR_TO_UTF8(*Path), Reason.IsEmpty() ? "" : ": ", TCHAR_TO_UTF8(*Reason));
 			}
 			if (!FLuaMachine::Get().RunChunk(Text, Path + TEXT(".lua")))
 			{

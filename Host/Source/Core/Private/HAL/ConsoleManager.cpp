@@ -1,8 +1,10 @@
 #include "HAL/ConsoleVariable.h"
 #include "HAL/IConsoleManager.h"
 #include "HAL/StandardCommands.h"
+#include "Host/ConsoleConfig.h"
 #include "Logging/LogMacros.h"
 #include "Misc/Char.h"
+#include "Misc/ConfigCacheIni.h"
 #include "Misc/Parse.h"
 
 #include <map>
@@ -57,7 +59,7 @@ namespace
 		bool operator()(const FString& A, const FString& B) const { return A.Compare(B, ESearchCase::IgnoreCase) < 0; }
 	};
 
-	/** What is kept of a variable while it is not registered. */
+	/** What a variable gets when it is registered: its value from before it was unregistered, or from a configuration. */
 	struct FKeptState
 	{
 		FString Value;
@@ -135,6 +137,26 @@ namespace
 		virtual void ForEachConsoleObjectThatContains(const FConsoleObjectVisitor& Visitor, const TCHAR* ThatContains) const override
 		{
 			Visit(Visitor, [&](const FString& Name) { return Name.Contains(ThatContains, ESearchCase::IgnoreCase); });
+		}
+
+		/** Sets a variable now, or as soon as it is registered. False for the name of a command. */
+		bool SetNowOrLater(const FString& Name, const FString& Value, EConsoleVariableFlags SetBy)
+		{
+			if (IConsoleObject* const Object = FindConsoleObject(*Name, false))
+			{
+				IConsoleVariable* const Variable = Object->AsVariable();
+				if (Variable != nullptr)
+				{
+					Variable->Set(*Value, SetBy);
+				}
+				return Variable != nullptr;
+			}
+			const auto Kept = KeptStates.find(Name);
+			if (Kept == KeptStates.end() || uint32(Kept->second.SetBy) <= uint32(SetBy))
+			{
+				KeptStates[Name] = FKeptState{Value, SetBy};
+			}
+			return true;
 		}
 
 		virtual bool ProcessUserConsoleInput(const TCHAR* Input, FOutputDevice& Ar, UWorld* InWorld) override
@@ -256,11 +278,32 @@ namespace
 		std::map<FString, std::unique_ptr<IConsoleObject>, FNameOrder> Objects;
 		std::map<FString, FKeptState, FNameOrder> KeptStates;
 	};
+
+	FHostConsoleManager& GetManager()
+	{
+		// Never destroyed: variables that unregister themselves are globals of every module.
+		static FHostConsoleManager& Manager = *new FHostConsoleManager;
+		return Manager;
+	}
 }
 
 IConsoleManager& IConsoleManager::Get()
 {
-	// Never destroyed: variables that unregister themselves are globals of every module.
-	static IConsoleManager& Manager = *new FHostConsoleManager;
-	return Manager;
+	return GetManager();
+}
+
+void Host::ApplyConsoleVariables(const TCHAR* Section, const FString& Name, EConsoleVariableFlags SetBy)
+{
+	TArray<FString> Lines;
+	GConfig->GetSection(Section, Lines, Name);
+	for (const FString& Line : Lines)
+	{
+		FString Variable;
+		FString Value;
+		Line.Split(TEXT("="), &Variable, &Value);
+		if (!GetManager().SetNowOrLater(Variable, Value, SetBy))
+		{
+			UE_LOG(LogCore, Warning, TEXT("[%s] of the configuration %s: '%s' is a command, not a variable"), Section, *Name, *Variable);
+		}
+	}
 }

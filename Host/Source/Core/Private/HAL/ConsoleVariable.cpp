@@ -62,7 +62,8 @@ namespace Host
 		}
 		if (!Read(InValue))
 		{
-			UE_LOG(LogCore, Warning, TEXT("Setting the console variable '%s' to '%s' was ignored: expected %s. It remains '%s'"), *Name, InValue, DescribeType(), *GetString());
+			UE_LOG(LogCore, Warning, TEXT("Setting the console variable '%s' to '%s' by '%s' was ignored: expected %s. It remains '%s'"),
+				*Name, InValue, GetConsoleVariableSetByName(SetBy), DescribeType(), *GetString());
 			return;
 		}
 		Flags = EConsoleVariableFlags((uint32(Flags) & ~uint32(ECVF_SetByMask)) | NewRank);

@@ -49,11 +49,6 @@ namespace
 	{
 		return GetMounts().FindByPredicate([&](const FMount& Mount) { return Package.StartsWith(Mount.Root, ESearchCase::IgnoreCase); });
 	}
-
-	void ReportRefused(const FString& ObjectPath, const FString& Reason)
-	{
-		UE_LOG(LogCore, Warning, TEXT("The content path '%s' is refused: %s"), *ObjectPath, *Reason);
-	}
 }
 
 bool Host::FMounts::Add(const FString& Root, const FString& Folder)
@@ -135,18 +130,25 @@ bool Host::FMounts::SplitObjectPath(const FString& ObjectPath, FString& OutPacka
 
 bool Host::FMounts::FindFile(const FString& ObjectPath, const FString& Suffix, FString& OutFilename)
 {
+	FString Reason;
+	const bool bFound = FindFile(ObjectPath, Suffix, OutFilename, Reason);
+	UE_CLOG(!Reason.IsEmpty(), LogCore, Warning, TEXT("The content path '%s' is refused: %s"), *ObjectPath, *Reason);
+	return bFound;
+}
+
+bool Host::FMounts::FindFile(const FString& ObjectPath, const FString& Suffix, FString& OutFilename, FString& OutReason)
+{
 	FString Package;
 	FString Object;
-	FString Reason;
-	if (!SplitObjectPath(ObjectPath, Package, Object, Reason))
+	OutReason.Empty();
+	if (!SplitObjectPath(ObjectPath, Package, Object, OutReason))
 	{
-		ReportRefused(ObjectPath, Reason);
 		return false;
 	}
 	const FMount* const Mount = FindMount(Package);
 	if (Mount == nullptr)
 	{
-		ReportRefused(ObjectPath, TEXT("nothing is mounted at its root"));
+		OutReason = TEXT("nothing is mounted at its root");
 		return false;
 	}
 	const FString Filename = Mount->Folder + Package.Mid(Mount->Root.Len()) + Suffix;
@@ -157,11 +159,19 @@ bool Host::FMounts::FindFile(const FString& ObjectPath, const FString& Suffix, F
 	const FString Resolved = FFiles::Resolve(Filename);
 	if (!Resolved.StartsWith(Mount->Folder, ESearchCase::CaseSensitive))
 	{
-		ReportRefused(ObjectPath, FString::Printf(TEXT("it leads out of the folder of '%s'"), *Mount->Root));
+		OutReason = FString::Printf(TEXT("it leads out of the folder of '%s'"), *Mount->Root);
 		return false;
 	}
 	OutFilename = Filename;
 	return true;
+}
+
+bool Host::FMounts::IsInMountOf(const FString& ObjectPath, const FString& Filename)
+{
+	const FMount* const Mount = FindMount(ObjectPath);
+	const FString Resolved = FFiles::Resolve(Filename);
+	const FString Full = Resolved.IsEmpty() ? FPaths::ConvertRelativePathToFull(Filename) : Resolved;
+	return Mount != nullptr && Full.StartsWith(Mount->Folder, ESearchCase::CaseSensitive);
 }
 
 FString Host::FMounts::ToPackageName(const FString& Filename, const FString& Suffix)

@@ -28,6 +28,15 @@ namespace Host
 		 */
 		CORE_API static bool FindFile(const FString& ObjectPath, const FString& Suffix, FString& OutFilename);
 
+		/** As above, but the caller tells the reason, which is empty for a file that is just missing. */
+		CORE_API static bool FindFile(const FString& ObjectPath, const FString& Suffix, FString& OutFilename, FString& OutReason);
+
+		/**
+		 * Whether a file that an asset names for itself, such as a font's, lies in the folder of the asset's root, every link
+		 * followed. It need not be there.
+		 */
+		CORE_API static bool IsInMountOf(const FString& ObjectPath, const FString& Filename);
+
 		/**
 		 * Splits a content path into its package ("/HalvexPro/Widgets/Style") and object ("Style", empty when not written).
 		 * Returns false, with the reason, when the path is malformed.

@@ -198,7 +198,8 @@ namespace Host
 		if (!RunLoader(Suffix, Request))
 		{
 			Registry.BrokenFiles.Add(Filename, Written);
-			OutReason = FString::Printf(TEXT("%s could not be read"), *Filename);
+			// The loader has said why.
+			OutReason.Empty();
 			return false;
 		}
 		Request.Package->MarkAsFullyLoaded();

@@ -48,13 +48,21 @@ namespace Host
 		return bAll;
 	}
 
-	bool FPropertyJsonReader::ReadPair(const FJsonNode& Node, const FMapProperty& Property, void* Key, void* Value)
+	bool FPropertyJsonReader::ReadKeyOfPair(const FJsonNode& Node, const FMapProperty& Property, void* Key)
 	{
 		if (!Node.IsArray() || Node.Num() != 2)
 		{
 			return FailExpected(Node, TEXT("a pair [key, value]"));
 		}
-		return ReadElement(Node.At(0), *Property.KeyProp, Key) && ReadElement(Node.At(1), *Property.ValueProp, Value);
+		return ReadElement(Node.At(0), *Property.KeyProp, Key);
+	}
+
+	bool FPropertyJsonReader::ReadKeyOfMember(const FJsonNode& Node, const FMapProperty& Property, void* Key)
+	{
+		FStringOutputDevice Why;
+		const FString Text(Node.GetKey());
+		const bool bRead = Property.KeyProp->ImportText_Direct(*Text, Key, Owner, PPF_None, &Why) != nullptr;
+		return bRead || Fail(Node, FString::Printf(TEXT("expected %s as key, found \"%s\""), *Property.KeyProp->GetCPPType(), *Text));
 	}
 
 	bool FPropertyJsonReader::ReadMap(const FJsonNode& Node, const FMapProperty& Property, void* Value)
@@ -65,29 +73,23 @@ namespace Host
 		}
 		const FScriptMapHelper Map(&Property, Value);
 		Map.EmptyValues(Node.Num());
+		const bool bPairs = Node.IsArray();
 		bool bAll = true;
 		int32 Index = 0;
 		for (const FJsonNode Child : Node)
 		{
+			const FScope Scope(*this, bPairs ? FString::Printf(TEXT("[%d]"), Index++) : FString::Printf(TEXT("[%s]"), *FString(Child.GetKey())));
 			const FLooseValue Key(*Property.KeyProp);
+			if (!(bPairs ? ReadKeyOfPair(Child, Property, Key.Get()) : ReadKeyOfMember(Child, Property, Key.Get())))
+			{
+				bAll = false;
+				continue;
+			}
+			const FJsonNode ElementNode = bPairs ? Child.At(1) : Child;
 			const FLooseValue Element(*Property.ValueProp);
-			bool bRead = false;
-			if (Node.IsArray())
-			{
-				const FScope Scope(*this, Index);
-				bRead = ReadPair(Child, Property, Key.Get(), Element.Get());
-			}
-			else
-			{
-				const FScope Scope(*this, FString::Printf(TEXT("[%s]"), *FString(Child.GetKey())));
-				FStringOutputDevice Why;
-				const FString KeyText(Child.GetKey());
-				const TCHAR* End = Property.KeyProp->ImportText_Direct(*KeyText, Key.Get(), Owner, PPF_None, &Why);
-				bRead = End ? ReadElement(Child, *Property.ValueProp, Element.Get())
-					: Fail(Child, FString::Printf(TEXT("expected %s as key, found \"%s\""), *Property.KeyProp->GetCPPType(), *KeyText));
-			}
-			++Index;
-			if (bRead)
+			const bool bRead = ReadElement(ElementNode, *Property.ValueProp, Element.Get());
+			// A structure is of use without those of its members that could not be read.
+			if (bRead || (ElementNode.IsObject() && Property.ValueProp->IsA<FStructProperty>()))
 			{
 				Map.AddPair(Key.Get(), Element.Get());
 			}

@@ -32,7 +32,8 @@ namespace Host
 		bool ReadArray(const FJsonNode& Node, const FArrayProperty& Property, void* Value);
 		bool ReadSet(const FJsonNode& Node, const FSetProperty& Property, void* Value);
 		bool ReadMap(const FJsonNode& Node, const FMapProperty& Property, void* Value);
-		bool ReadPair(const FJsonNode& Node, const FMapProperty& Property, void* Key, void* Value);
+		bool ReadKeyOfPair(const FJsonNode& Node, const FMapProperty& Property, void* Key);
+		bool ReadKeyOfMember(const FJsonNode& Node, const FMapProperty& Property, void* Key);
 		bool ReadObject(const FJsonNode& Node, const FObjectPropertyBase& Property, void* Value);
 		bool ReadInstanced(const FJsonNode& Node, const FObjectPropertyBase& Property, void* Value);
 		bool ReadSoft(const FJsonNode& Node, const FSoftObjectProperty& Property, void* Value);

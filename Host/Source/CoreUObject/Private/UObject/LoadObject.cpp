@@ -28,7 +28,7 @@ namespace
 		return Path.StartsWith(TEXT("/Script/"));
 	}
 
-	/** The object of the path, loaded if need be; null with the reason. */
+	/** The object of the path, loaded if need be; null with the reason, which is empty when it has been logged. */
 	UObject* FindOrLoad(const FString& Path, FString& OutReason)
 	{
 		if (UObject* Object = StaticFindObject(nullptr, nullptr, *Path))
@@ -67,9 +67,11 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 	{
 		Reason = FString::Printf(TEXT("it is a %s"), *Object->GetClass()->GetName());
 	}
-	if (!(LoadFlags & (LOAD_Quiet | LOAD_NoWarn)))
+	const bool bLogged = Reason.IsEmpty();
+	const bool bLog = !bLogged && !(LoadFlags & (LOAD_Quiet | LOAD_NoWarn));
+	UE_CLOG(bLog, LogUObjectGlobals, Warning, TEXT("Failed to find object '%s %s': %s"), *Class->GetName(), *Path, *Reason);
+	if (bLog || bLogged)
 	{
-		UE_LOG(LogUObjectGlobals, Warning, TEXT("Failed to find object '%s %s': %s"), *Class->GetName(), *Path, *Reason);
 		Host::FAssetLoaders::SetReportedFailure(Path);
 	}
 	return nullptr;

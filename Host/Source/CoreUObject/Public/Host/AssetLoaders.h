@@ -62,8 +62,8 @@ namespace Host
 
 		/**
 		 * Loads the file of a path unless its objects are there. True when they are there afterwards; the path itself may still
-		 * lead to nothing. False, with the reason, for a file that is missing or could not be read; a file that could not be read
-		 * is read again only after it has changed.
+		 * lead to nothing. False, with the reason, for a file that is missing or could not be read; the reason is empty when this
+		 * call has logged it. A file that could not be read is read again only after it has changed.
 		 */
 		static bool Load(const FString& ObjectPath, FString& OutReason);
 

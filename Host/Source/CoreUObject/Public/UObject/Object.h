@@ -2,7 +2,9 @@
 
 #include "UObject/UObjectBaseUtility.h"
 
+class FObjectInitializer;
 class FProperty;
+class FReferenceCollector;
 class UFunction;
 class UWorld;
 struct FPropertyChangedChainEvent;

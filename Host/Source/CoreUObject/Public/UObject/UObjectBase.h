@@ -3,11 +3,8 @@
 #include "CoreMinimal.h"
 #include "UObject/ObjectMacros.h"
 
-class FObjectInitializer;
-class FReferenceCollector;
 class UClass;
 class UObject;
-class UPackage;
 
 namespace Host
 {
@@ -53,9 +50,6 @@ public:
 protected:
 	/** Moves the object to another name and outer in the name lookup. */
 	void LowLevelRename(FName NewName, UObject* NewOuter);
-
-	/** Makes the object an instance of another class of the same layout; for classes that replace themselves on reload. */
-	void SetClass(UClass* NewClass) { ClassPrivate = NewClass; }
 
 	void SetFlagsTo(EObjectFlags NewFlags) { ObjectFlags = NewFlags; }
 

@@ -2,6 +2,8 @@
 
 #include "UObject/UObjectBase.h"
 
+class UPackage;
+
 /** Questions about an object's flags, name, place and class. */
 class COREUOBJECT_API UObjectBaseUtility : public UObjectBase
 {

@@ -1,19 +1,29 @@
 #include "Engine/Font.h"
 
 #include "Host/AssetLoaders.h"
+#include "Host/Mounts.h"
 #include "Misc/Paths.h"
 
 namespace
 {
-	void ResolveFilenames(FTypeface& Typeface, const FString& Folder)
+	/** Font files are named relative to their asset, and like every content path do not lead out of its mount. */
+	void ResolveFilenames(FTypeface& Typeface, const FString& AssetPath, const FString& AssetFile)
 	{
 		for (FTypefaceEntry& Entry : Typeface.Fonts)
 		{
-			const FString& Filename = Entry.Font.GetFontFilename();
-			if (!Filename.IsEmpty() && FPaths::IsRelative(Filename))
+			const FString Filename = Entry.Font.GetFontFilename();
+			if (Filename.IsEmpty())
 			{
-				Entry.Font.SetFontFilename(FPaths::Combine(Folder, Filename));
+				continue;
 			}
+			const FString Full = FPaths::IsRelative(Filename) ? FPaths::Combine(FPaths::GetPath(AssetFile), Filename) : Filename;
+			if (Host::FMounts::IsInMountOf(AssetPath, Full))
+			{
+				Entry.Font.SetFontFilename(Full);
+				continue;
+			}
+			UE_LOG(LogAssets, Error, TEXT("%s: the file '%s' of the typeface '%s' is refused: it leads out of the folder of its mount."), *AssetFile, *Filename, *Entry.Name.ToString());
+			Entry.Font.SetFontFilename(FString());
 		}
 	}
 }
@@ -36,12 +46,12 @@ void UFont::PostLoad()
 	FString Suffix;
 	if (Host::FAssetLoaders::FindFile(GetPathName(), AssetFile, Suffix))
 	{
-		const FString Folder = FPaths::GetPath(AssetFile);
-		ResolveFilenames(CompositeFont.DefaultTypeface, Folder);
-		ResolveFilenames(CompositeFont.FallbackTypeface.Typeface, Folder);
+		const FString AssetPath = GetPathName();
+		ResolveFilenames(CompositeFont.DefaultTypeface, AssetPath, AssetFile);
+		ResolveFilenames(CompositeFont.FallbackTypeface.Typeface, AssetPath, AssetFile);
 		for (FCompositeSubFont& SubFont : CompositeFont.SubTypefaces)
 		{
-			ResolveFilenames(SubFont.Typeface, Folder);
+			ResolveFilenames(SubFont.Typeface, AssetPath, AssetFile);
 		}
 	}
 	CompositeFont.MakeDirty();

@@ -7,6 +7,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Host/Clock.h"
 #include "Host/ConfigFiles.h"
+#include "Host/ConsoleConfig.h"
 #include "Host/DesktopApplication.h"
 #include "Host/DesktopInput.h"
 #include "Host/FontServices.h"
@@ -14,6 +15,7 @@
 #include "Host/Mounts.h"
 #include "Host/SlateLoop.h"
 #include "Host/StartModules.h"
+#include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/GarbageCollection.h"
@@ -52,6 +54,8 @@ namespace Host
 			return false;
 		}
 		FConfigFiles::AddPluginFolder(FPaths::Combine(Settings.PluginFolder, TEXT("Config")));
+		// Ahead of everything that could read a variable.
+		ApplyConsoleVariables(TEXT("ConsoleVariables"), GEngineIni, ECVF_SetBySystemSettingsIni);
 		if (!StartPlatform(OutError))
 		{
 			Exit();

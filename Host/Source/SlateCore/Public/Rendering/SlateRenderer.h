@@ -64,7 +64,10 @@ class SLATECORE_API FSlateRenderer
 public:
 	virtual ~FSlateRenderer() = default;
 
-	/** Makes ready to draw. On failure nothing is held and OutError says in one line what is missing. */
+	/**
+	 * Makes ready to draw. On failure nothing is held and OutError says in one line what is missing; it may be tried again.
+	 * A renderer that is ready stays as it is and gives true, so that whoever made it may have initialised it already.
+	 */
 	virtual bool Initialize(FString& OutError) = 0;
 
 	/** Frees everything; logs what was not given back. Surfaces must be gone. */
