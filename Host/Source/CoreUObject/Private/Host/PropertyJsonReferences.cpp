@@ -6,7 +6,12 @@ namespace Host
 {
 	UObject* FPropertyJsonReader::LoadReference(const FJsonNode& Node, const FString& ReferencePath)
 	{
-		UObject* Object = StaticLoadObject(UObject::StaticClass(), nullptr, *ReferencePath, nullptr, LOAD_Quiet);
+		const bool bName = ReferencePath.Len() < NAME_SIZE && !ReferencePath.Contains(TEXT("/")) && !ReferencePath.Contains(TEXT("."));
+		UObject* Object = bName && Owner && Owner->GetOuter() ? StaticFindObjectFast(nullptr, Owner->GetOuter(), FName(ReferencePath)) : nullptr;
+		if (!Object)
+		{
+			Object = StaticLoadObject(UObject::StaticClass(), nullptr, *ReferencePath, nullptr, LOAD_Quiet);
+		}
 		if (!Object)
 		{
 			Fail(Node, FString::Printf(TEXT("there is no object %s"), *ReferencePath));

@@ -25,7 +25,7 @@ namespace Host
 	 * colours              "#RRGGBB[AA]" in sRGB, or their components
 	 * arrays, sets         arrays
 	 * maps                 arrays of [key, value] pairs, or objects
-	 * object references    paths; null for none. An instanced one may be an object {"Class": ..., "Name": ..., "Properties": {...}},
+	 * object references    paths; null for none; a name alone is that of an object beside the owner. An instanced one may be an object {"Class": ..., "Name": ..., "Properties": {...}},
 	 *                      where the class may be left out when an object is there already
 	 * soft references      paths, which are not followed
 	 */
