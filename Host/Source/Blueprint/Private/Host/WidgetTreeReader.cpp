@@ -16,6 +16,11 @@ namespace Host
 		{
 			Tree.RootWidget = ReadWidget(RootNode);
 		}
+		for (const TPair<UWidget*, FJsonNode>& Pending : PendingProperties)
+		{
+			ReadProperties(Pending.Value, *Pending.Key);
+		}
+		PendingProperties.Empty();
 	}
 
 	UWidget* FWidgetTreeReader::ReadWidget(const FJsonNode& Node)
@@ -36,7 +41,7 @@ namespace Host
 		{
 			NamedSlots.Add(Widget->GetFName());
 		}
-		ReadProperties(Node.Find(TEXT("Properties")), *Widget);
+		PendingProperties.Emplace(Widget, Node.Find(TEXT("Properties")));
 		ReadChildren(Node.Find(TEXT("Children")), *Widget);
 		ReadNamedSlots(Node.Find(TEXT("NamedSlots")), *Widget);
 		return Widget;

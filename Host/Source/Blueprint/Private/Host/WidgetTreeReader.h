@@ -35,6 +35,8 @@ namespace Host
 		void ReportUnknownMembers(const FJsonNode& Node);
 
 		UWidgetTree& Tree;
+		/** Read last, when every widget is there that a property may name. */
+		TArray<TPair<UWidget*, FJsonNode>> PendingProperties;
 		TArray<FName> NamedSlots;
 	};
 }
