@@ -63,6 +63,6 @@ function OnInitialized(self)
 	end)
 end
 
-function Construct(self)
+function PreConstruct(self)
 	ShowPage(self)
 end
