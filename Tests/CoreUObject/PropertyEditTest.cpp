@@ -76,6 +76,22 @@ TEST_F(PropertyEdit, ElementIsAnnouncedUnderTheNameOfItsArray)
 	ExpectNotifications({ TEXT("Pre:Numbers"), TEXT("Chain:Numbers.Numbers/2"), TEXT("Post:Numbers.Numbers") });
 }
 
+TEST_F(PropertyEdit, IndexOfAnElementGoesByTheNameOfItsArray)
+{
+	Style->Numbers = { 1, 2, 3 };
+	EXPECT_EQ(Set(TEXT("Numbers[2]"), TEXT("9")), FString());
+	EXPECT_EQ(Style->LastNumbersIndex, 2);
+
+	EXPECT_EQ(Set(TEXT("Whole"), TEXT("1")), FString());
+	EXPECT_EQ(Style->LastNumbersIndex, INDEX_NONE);
+
+	FString Reason;
+	EXPECT_TRUE(Host::FPropertyEdit::AddElement(Style, TEXT("Numbers"), Reason));
+	EXPECT_EQ(Style->LastNumbersIndex, 3);
+	EXPECT_TRUE(Host::FPropertyEdit::RemoveElement(Style, TEXT("Numbers[1]"), Reason));
+	EXPECT_EQ(Style->LastNumbersIndex, 1);
+}
+
 TEST_F(PropertyEdit, MemberOfAnElementIsReached)
 {
 	Style->Entries.SetNum(2);
@@ -106,6 +122,18 @@ TEST_F(PropertyEdit, InnerObjectGetsTheNotifications)
 	EXPECT_EQ(Style->Base->Whole, 5);
 	ExpectNotifications({});
 	EXPECT_EQ(Style->Base->Notifications.Num(), 3);
+}
+
+TEST_F(PropertyEdit, NameAloneIsThatOfAnObjectBesideTheOwner)
+{
+	UObjectTestStyle* Outer = NewObject<UObjectTestStyle>();
+	UObjectTestStyle* Inner = NewObject<UObjectTestStyle>(Outer, TEXT("Inner"));
+	UObjectTestStyle* Beside = NewObject<UObjectTestStyle>(Outer, TEXT("Beside"));
+	FString Reason;
+	EXPECT_TRUE(Host::FPropertyEdit::SetFromText(Inner, TEXT("Base"), TEXT("Beside"), Reason)) << TCHAR_TO_UTF8(*Reason);
+	EXPECT_EQ(Inner->Base, Beside);
+	EXPECT_FALSE(Host::FPropertyEdit::SetFromText(Inner, TEXT("Base"), TEXT("Elsewhere"), Reason));
+	EXPECT_EQ(Inner->Base, Beside);
 }
 
 TEST_F(PropertyEdit, StringsNeedNoQuotes)

@@ -60,6 +60,18 @@ namespace
 		EXPECT_EQ(ListEvents(*Widget), "");
 	}
 
+	TEST_F(FUserWidgetTest, WhatATreeMakesInTheDesignerIsAtDesignTime)
+	{
+		URecordingUserWidget* Parent = NewObject<URecordingUserWidget>();
+		Parent->SetDesignerFlags(EWidgetDesignFlags::Designing);
+		Parent->Initialize();
+		URecordingUserWidget* Child = Parent->WidgetTree->ConstructWidget<URecordingUserWidget>();
+		EXPECT_EQ(ListEvents(*Child), "Initialize");
+		EXPECT_TRUE(Child->IsDesignTime());
+		EXPECT_TRUE(Parent->WidgetTree->ConstructWidget<UTextBlock>()->IsDesignTime());
+		EXPECT_FALSE(MakeWidget()->WidgetTree->ConstructWidget<UTextBlock>()->IsDesignTime());
+	}
+
 	TEST_F(FUserWidgetTest, WithoutAPlayerItIsNotInitialisedForPlay)
 	{
 		URecordingUserWidget* Widget = NewObject<URecordingUserWidget>();

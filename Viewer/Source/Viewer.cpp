@@ -1,6 +1,9 @@
 #include "Viewer.h"
 
 #include "Blueprint/UserWidget.h"
+#include "Engine/Engine.h"
+#include "Engine/GameInstance.h"
+#include "Engine/World.h"
 #include "HalvexProUISettings.h"
 #include "HalvexUISubsystem.h"
 #include "Host/AutomationScript.h"
@@ -18,6 +21,9 @@
 namespace
 {
 	const TCHAR* const ShippedStyles[] = { TEXT("UIStyle_Hx_Light"), TEXT("UIStyle_Hx_Dark") };
+
+	/** How long a written file may take to show at design time. */
+	constexpr float SecondsBetweenLooks = 0.5f;
 
 	bool HasDisplay()
 	{
@@ -78,6 +84,7 @@ int32 FViewer::Run()
 	{
 		ExitCode = RunScreen();
 	}
+	Designer.Reset();
 	Loop.Exit();
 	return ExitCode == 0 && Options.bHeadless && Errors.NumErrors > 0 ? 1 : ExitCode;
 }
@@ -115,7 +122,7 @@ bool FViewer::ChooseStyle(const FString& StylePath)
 
 int32 FViewer::RunScreen()
 {
-	if (!ViewerScreens::Show(Options.Screen))
+	if (Options.bDesign ? !ShowDesign() : !ViewerScreens::Show(Options.Screen))
 	{
 		return 1;
 	}
@@ -133,6 +140,32 @@ int32 FViewer::RunScreen()
 		Print(Host::DumpWidgetTree(Loop.GetWindow().ToSharedRef()));
 	}
 	return Options.Screenshot.IsEmpty() || WritePicture(Options.Screenshot) ? 0 : 1;
+}
+
+bool FViewer::ShowDesign()
+{
+	const FString ClassPath = ViewerScreens::FindClassPath(Options.Screen);
+	if (ClassPath.IsEmpty())
+	{
+		return false;
+	}
+	Designer = MakeUnique<Host::FWidgetDesigner>();
+	FString Reason;
+	if (!Designer->Open(ClassPath, Reason))
+	{
+		std::fprintf(stderr, "HalvexViewer: %s\n", TCHAR_TO_UTF8(*Reason));
+		return false;
+	}
+	Designer->Show();
+	FTimerHandle Handle;
+	GEngine->GetGameInstance()->GetWorld()->GetTimerManager().SetTimer(Handle, FTimerDelegate::CreateLambda([this]
+	{
+		if (Designer)
+		{
+			Designer->ReloadIfChanged();
+		}
+	}), SecondsBetweenLooks, true);
+	return true;
 }
 
 bool FViewer::WritePicture(const FString& File)

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Host/EngineLoop.h"
 #include "Host/LogSink.h"
+#include "Host/WidgetDesigner.h"
 #include "ViewerOptions.h"
 
 /** The application: shows one screen in a window, or does what was asked for without one. */
@@ -29,6 +30,8 @@ private:
 	bool Start();
 	bool ChooseStyle(const FString& StylePath);
 	int32 RunScreen();
+	/** Shows the screen at design time. */
+	bool ShowDesign();
 	bool WritePicture(const FString& File);
 
 	/** Writes a picture of every screen in every shipped style, for a machine without a display. */
@@ -37,6 +40,8 @@ private:
 	FViewerOptions Options;
 	FErrorCounter Errors;
 	Host::FEngineLoop Loop;
+	/** Set while a screen is shown at design time; gone before the engine stops. */
+	TUniquePtr<Host::FWidgetDesigner> Designer;
 	/** True when a window was wanted and there is no display. */
 	bool bNoDisplay = false;
 };

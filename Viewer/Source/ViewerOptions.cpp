@@ -57,6 +57,7 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	App.add_option("--renderer", Renderer, "What draws")->type_name("auto|cpu|gl")->check(CLI::IsMember({ "auto", "cpu", "gl" }));
 	App.add_option("--screenshot", Screenshot, "Write a picture of the screen, then end")->type_name("FILE.png");
 	App.add_flag("--dump-tree", OutOptions.bDumpTree, "Print the widgets with their geometry, then end");
+	App.add_flag("--design", OutOptions.bDesign, "Show the screen at design time, and anew whenever its files are written");
 	App.add_option("--script", Script, "Drive the screen by a script, then end")->type_name("FILE.lua")->check(CLI::ExistingFile);
 
 	try

@@ -19,6 +19,8 @@ struct FViewerOptions
 	/** File to write a picture of the screen to; empty for none. */
 	FString Screenshot;
 	bool bDumpTree = false;
+	/** Show the screen as the designer does, and anew whenever its files are written. */
+	bool bDesign = false;
 	/** Lua file that drives the screen; empty for none. */
 	FString Script;
 };

@@ -27,14 +27,20 @@ TArray<FString> ViewerScreens::List()
 	return Names;
 }
 
-UUserWidget* ViewerScreens::Show(const FString& Name)
+FString ViewerScreens::FindClassPath(const FString& Name)
 {
 	if (!List().Contains(Name))
 	{
 		UE_LOG(LogViewer, Error, TEXT("There is no screen '%s'; there are: %s."), *Name, *FString::Join(List(), TEXT(", ")));
-		return nullptr;
+		return FString();
 	}
-	UClass* Class = LoadObject<UClass>(nullptr, *FString::Printf(TEXT("%s%s.%s_C"), ScreenRoot, *Name, *Name));
+	return FString::Printf(TEXT("%s%s.%s_C"), ScreenRoot, *Name, *Name);
+}
+
+UUserWidget* ViewerScreens::Show(const FString& Name)
+{
+	const FString ClassPath = FindClassPath(Name);
+	UClass* Class = ClassPath.IsEmpty() ? nullptr : LoadObject<UClass>(nullptr, *ClassPath);
 	UUserWidget* Screen = Class ? CreateWidget<UUserWidget>(GEngine->GetGameInstance(), Class) : nullptr;
 	if (Screen)
 	{

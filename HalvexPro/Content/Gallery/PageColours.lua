@@ -38,7 +38,7 @@ local function AddGroup(self, Title, Fill)
 	Kit.Add(self.Content, Panel, { Padding = Kit.Margin(0, 0, 0, 28) })
 end
 
-function Construct(self)
+function PreConstruct(self)
 	local Style = Load(Default("/Script/HalvexProUI.HalvexProUISettings").ProjectUIConfiguration)
 	Kit.StyleBorder(self.Background, "Secondary", 1)
 	self.Content:ClearChildren()

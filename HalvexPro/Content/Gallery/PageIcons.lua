@@ -107,7 +107,7 @@ function OnInitialized(self)
 	end)
 end
 
-function Construct(self)
+function PreConstruct(self)
 	Kit.StyleBorder(self.Background, "Secondary", 1)
 	self.Top:ClearChildren()
 	Kit.Heading(self, self.Top, "Icons", "An icon is a glyph of the icon font. It is named by the font, the typeface and the row of the font's table.")

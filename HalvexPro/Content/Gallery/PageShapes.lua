@@ -23,7 +23,7 @@ local function AddGroup(self, Title, Fill)
 	Kit.Add(self.Content, Card, { Padding = Kit.Margin(0, 0, 0, 28) })
 end
 
-function Construct(self)
+function PreConstruct(self)
 	Kit.StyleBorder(self.Background, "Secondary", 1)
 	self.Content:ClearChildren()
 	Kit.Heading(self, self.Content, "Shapes", "A border style is a colour, an opacity and corners: all alike, each on its own, or as round as half of the height.")

@@ -30,7 +30,7 @@ local function AddCard(self, Title, Fill)
 	Kit.Add(self.Content, Card, { Padding = Kit.Margin(0, 0, 0, 28) })
 end
 
-function Construct(self)
+function PreConstruct(self)
 	local Style = Load(Default("/Script/HalvexProUI.HalvexProUISettings").ProjectUIConfiguration)
 	local Sizing = Style.FontStyle.FontSizing
 	Kit.StyleBorder(self.Background, "Secondary", 1)

@@ -44,7 +44,11 @@ function OnInitialized(self)
 	end)
 end
 
-function Construct(self)
+function PreConstruct(self, IsDesignTime)
 	RestyleFrame(self)
 	self.Navigation["Nav" .. self.Page]:SelectButton()
+	-- In the designer nobody listens to the navigation.
+	if IsDesignTime then
+		ShowPage(self)
+	end
 end

@@ -20,6 +20,7 @@ void UObjectTestStyle::PostEditChangeProperty(FPropertyChangedEvent& PropertyCha
 {
 	Super::PostEditChangeProperty(PropertyChangedEvent);
 	LastChangeType = PropertyChangedEvent.ChangeType;
+	LastNumbersIndex = PropertyChangedEvent.GetArrayIndex(TEXT("Numbers"));
 	Notifications.Add(FString::Printf(TEXT("Post:%s.%s"), *PropertyChangedEvent.GetMemberPropertyName().ToString(),
 		*PropertyChangedEvent.GetPropertyName().ToString()));
 }

@@ -119,6 +119,8 @@ public:
 	/** "Pre:Member", "Chain:Member.Property/n" and "Post:Member.Property", in order. */
 	TArray<FString> Notifications;
 	uint32 LastChangeType = 0;
+	/** Where in Numbers the last edit took place. */
+	int32 LastNumbersIndex = INDEX_NONE;
 	int32 NumPostLoad = 0;
 
 	virtual void PostLoad() override;

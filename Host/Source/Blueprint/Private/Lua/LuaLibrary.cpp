@@ -47,7 +47,7 @@ namespace Host
 		{
 			luaL_checkstring(State, 1);
 			const FString Path = ToFString(State, 1);
-			luaL_getsubtable(State, LUA_REGISTRYINDEX, "ImportedScripts");
+			luaL_getsubtable(State, LUA_REGISTRYINDEX, ImportTableName);
 			if (lua_getfield(State, -1, TCHAR_TO_UTF8(*Path)) == LUA_TTABLE)
 			{
 				return 1;

@@ -180,6 +180,12 @@ namespace Host
 		return true;
 	}
 
+	void FLuaMachine::ForgetImports()
+	{
+		lua_pushnil(State);
+		lua_setfield(State, LUA_REGISTRYINDEX, ImportTableName);
+	}
+
 	bool FLuaMachine::Call(int32 NumArguments, int32 NumResults)
 	{
 		const int Handler = lua_gettop(State) - NumArguments;

@@ -27,6 +27,9 @@ namespace Host
 		int32 Key = -2;
 	};
 
+	/** Where the registry keeps what imported scripts define, by path. */
+	inline constexpr const char* ImportTableName = "ImportedScripts";
+
 	/**
 	 * The one scripting state of the program, with limits on memory and time and nothing within reach but values: text chunks
 	 * only, no files, no processes, no loading of code.
@@ -62,6 +65,9 @@ namespace Host
 		 * without results, when it fails.
 		 */
 		bool Call(int32 NumArguments, int32 NumResults);
+
+		/** Lets imported scripts be read again by the next import. */
+		void ForgetImports();
 
 		/** Bytes that scripts hold. */
 		int64 GetUsedBytes() const { return UsedBytes; }

@@ -11,12 +11,34 @@ namespace Host
 {
 	namespace
 	{
-		/** Raises the notifications around a change; keeps the object's own member and the way to the change. */
+		/** The indices of the elements on the way, by the names of their arrays. */
+		TMap<FString, int32> FindArrayIndices(const FPropertyPlace& Place)
+		{
+			TMap<FString, int32> Indices;
+			for (const FPropertyPlace::FStep& Step : Place.Steps)
+			{
+				if (Step.Index != INDEX_NONE)
+				{
+					Indices.Add(Step.Property->GetName(), Step.Index);
+				}
+			}
+			return Indices;
+		}
+
+		/**
+		 * Raises the notifications around a change; keeps the object's own member and the way to the change.
+		 * @param ElementIndex of the element that comes or goes, for a change of the array itself
+		 */
 		template<typename TChange>
-		void ChangeWithNotifications(const FPropertyPlace& Place, FProperty* Changed, EPropertyChangeType::Type ChangeType, TChange Change)
+		void ChangeWithNotifications(const FPropertyPlace& Place, FProperty* Changed, EPropertyChangeType::Type ChangeType, TChange Change, int32 ElementIndex = INDEX_NONE)
 		{
 			UObject* Object = Place.Object;
 			FProperty* Member = Place.Steps[0].Property;
+			TMap<FString, int32> Indices = FindArrayIndices(Place);
+			if (ElementIndex != INDEX_NONE)
+			{
+				Indices.Add(Changed->GetName(), ElementIndex);
+			}
 			Object->PreEditChange(Member);
 			Change();
 
@@ -29,6 +51,8 @@ namespace Host
 			Chain.SetActivePropertyNode(Changed);
 			FPropertyChangedEvent Event(Changed, ChangeType);
 			Event.SetActiveMemberProperty(Member);
+			Event.SetArrayIndexPerObject(TArrayView<const TMap<FString, int32>>(&Indices, 1));
+			Event.ObjectIteratorIndex = 0;
 			FPropertyChangedChainEvent ChainEvent(Chain, Event);
 			Object->PostEditChangeChainProperty(ChainEvent);
 		}
@@ -127,6 +151,13 @@ namespace Host
 		return true;
 	}
 
+	bool FPropertyEdit::HasMetaData(UObject* Object, const FString& Path, const TCHAR* Key)
+	{
+		FPropertyPlace Place;
+		FString Reason;
+		return Place.Find(Object, Path, Reason) && Place.Steps.ContainsByPredicate([Key](const FPropertyPlace::FStep& Step) { return Step.Property->HasMetaData(Key); });
+	}
+
 	bool FPropertyEdit::AddElement(UObject* Object, const FString& ArrayPath, FString& OutReason)
 	{
 		FPropertyPlace Place;
@@ -141,7 +172,8 @@ namespace Host
 			return false;
 		}
 		void* Value = Place.Last().Value;
-		ChangeWithNotifications(Place, Array, EPropertyChangeType::ArrayAdd, [&] { FScriptArrayHelper(Array, Value).AddValue(); });
+		const int32 NewIndex = FScriptArrayHelper(Array, Value).Num();
+		ChangeWithNotifications(Place, Array, EPropertyChangeType::ArrayAdd, [&] { FScriptArrayHelper(Array, Value).AddValue(); }, NewIndex);
 		return true;
 	}
 
@@ -161,7 +193,7 @@ namespace Host
 			return false;
 		}
 		void* Value = Place.Last().Value;
-		ChangeWithNotifications(Place, Array, EPropertyChangeType::ArrayRemove, [&] { FScriptArrayHelper(Array, Value).RemoveValues(Index); });
+		ChangeWithNotifications(Place, Array, EPropertyChangeType::ArrayRemove, [&] { FScriptArrayHelper(Array, Value).RemoveValues(Index); }, Index);
 		return true;
 	}
 

@@ -34,7 +34,8 @@ namespace Host
 			{
 				return StaticLoadObject(UObject::StaticClass(), nullptr, *Path);
 			}
-			return OwnerObject ? StaticFindObject(UObject::StaticClass(), OwnerObject, *Path) : nullptr;
+			UObject* Inside = OwnerObject ? StaticFindObject(UObject::StaticClass(), OwnerObject, *Path) : nullptr;
+			return Inside || !OwnerObject || !OwnerObject->GetOuter() ? Inside : StaticFindObject(UObject::StaticClass(), OwnerObject->GetOuter(), *Path);
 		}
 	}
 }

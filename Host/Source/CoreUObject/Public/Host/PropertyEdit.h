@@ -17,7 +17,7 @@ namespace Host
 	 *
 	 * Each edit calls PreEditChange with the object's own member, changes the value and calls PostEditChangeChainProperty, whose
 	 * base goes on to PostEditChangeProperty: Property is the innermost property, which for an element is that of the element,
-	 * MemberProperty the object's own. Each function returns false with the reason, and changes nothing, when the path leads
+	 * MemberProperty the object's own, and GetArrayIndex gives the elements on the way. Each function returns false with the reason, and changes nothing, when the path leads
 	 * nowhere or the value does not read as one of the property's type.
 	 */
 	class COREUOBJECT_API FPropertyEdit
@@ -33,6 +33,9 @@ namespace Host
 
 		/** Writes a value as text. */
 		static bool GetAsText(UObject* Object, const FString& Path, FString& OutText, FString& OutReason);
+
+		/** Whether a property on the way to the value carries the metadata; false when the path leads nowhere. */
+		static bool HasMetaData(UObject* Object, const FString& Path, const TCHAR* Key);
 
 		/** Appends a default element to an array. */
 		static bool AddElement(UObject* Object, const FString& ArrayPath, FString& OutReason);

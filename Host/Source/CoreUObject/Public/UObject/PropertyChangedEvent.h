@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Containers/ArrayView.h"
+#include "Containers/List.h"
+#include "Containers/Map.h"
 #include "UObject/Property.h"
 
 /** What happened to an edited property. */
@@ -39,44 +42,59 @@ struct FPropertyChangedEvent
 	/** Name of the object's own member that contains it; NAME_None when it is unknown. */
 	FName GetMemberPropertyName() const { return MemberProperty ? MemberProperty->GetFName() : NAME_None; }
 
+	/**
+	 * Tells for each object of the edit at which indices of its arrays it took place, by the arrays' names. The maps must live as
+	 * long as the event.
+	 */
+	void SetArrayIndexPerObject(TArrayView<const TMap<FString, int32>> InArrayIndices) { ArrayIndicesPerObject = InArrayIndices; }
+
+	/** Index of the edited element, or of what contains it, in the array of that name; INDEX_NONE when it is in none. */
+	int32 GetArrayIndex(const FString& InName) const
+	{
+		const int32* Index = ArrayIndicesPerObject.IsValidIndex(ObjectIteratorIndex) ? ArrayIndicesPerObject[ObjectIteratorIndex].Find(InName) : nullptr;
+		return Index ? *Index : INDEX_NONE;
+	}
+
 	/** The innermost property that changed; null for a bulk change. */
 	FProperty* Property;
 	/** The object's own member that contains it; the same property unless it lies in a structure or container. */
 	FProperty* MemberProperty;
 	EPropertyChangeType::Type ChangeType;
+	/** Which of the objects of the edit is being told; INDEX_NONE when that was not set. */
+	int32 ObjectIteratorIndex = INDEX_NONE;
+
+private:
+	TArrayView<const TMap<FString, int32>> ArrayIndicesPerObject;
 };
 
 /** The way from an object's own member to an edited property, outermost first. */
-class FEditPropertyChain
+class FEditPropertyChain : public TDoubleLinkedList<FProperty*>
 {
 public:
-	void AddTail(FProperty* Property) { Properties.Add(Property); }
-	void AddHead(FProperty* Property) { Properties.Insert(Property, 0); }
-	int32 Num() const { return Properties.Num(); }
-	FProperty* GetPropertyAt(int32 Index) const { return Properties[Index]; }
-
-	/** The innermost property that changed. */
-	FProperty* GetActiveNode() const { return ActivePropertyNode; }
-	/** The object's own member. */
-	FProperty* GetActiveMemberNode() const { return ActiveMemberPropertyNode; }
+	/** The innermost property that changed; null until it is set. */
+	TDoubleLinkedListNode* GetActiveNode() const { return ActivePropertyNode; }
+	/** The object's own member; null until it is set. */
+	TDoubleLinkedListNode* GetActiveMemberNode() const { return ActiveMemberPropertyNode; }
 	/** False when the property is not part of the chain. */
 	bool SetActivePropertyNode(FProperty* NewActiveNode)
 	{
-		const bool bFound = Properties.Contains(NewActiveNode);
-		ActivePropertyNode = bFound ? NewActiveNode : ActivePropertyNode;
-		return bFound;
+		return Activate(ActivePropertyNode, NewActiveNode);
 	}
 	bool SetActiveMemberPropertyNode(FProperty* NewActiveMemberNode)
 	{
-		const bool bFound = Properties.Contains(NewActiveMemberNode);
-		ActiveMemberPropertyNode = bFound ? NewActiveMemberNode : ActiveMemberPropertyNode;
-		return bFound;
+		return Activate(ActiveMemberPropertyNode, NewActiveMemberNode);
 	}
 
 private:
-	TArray<FProperty*> Properties;
-	FProperty* ActivePropertyNode = nullptr;
-	FProperty* ActiveMemberPropertyNode = nullptr;
+	bool Activate(TDoubleLinkedListNode*& Active, FProperty* Property) const
+	{
+		TDoubleLinkedListNode* Node = FindNode(Property);
+		Active = Node ? Node : Active;
+		return Node != nullptr;
+	}
+
+	TDoubleLinkedListNode* ActivePropertyNode = nullptr;
+	TDoubleLinkedListNode* ActiveMemberPropertyNode = nullptr;
 };
 
 /** As FPropertyChangedEvent, with the whole way to the property. */

@@ -412,6 +412,11 @@ UUserWidget* UUserWidget::CreateInstanceInternal(UObject& Outer, UClass* UserWid
 	UUserWidget* NewWidget = NewObject<UUserWidget>(&Outer, UserWidgetClass, WidgetName, RF_Transactional);
 	NewWidget->OwningPlayer = Player;
 	NewWidget->OwningWorld = World;
+	// What a preview makes is part of it.
+	if (const UUserWidget* Parent = Cast<UWidgetTree>(&Outer) ? Cast<UUserWidget>(Outer.GetOuter()) : nullptr)
+	{
+		NewWidget->SetDesignerFlags(Parent->GetDesignerFlags());
+	}
 	NewWidget->Initialize();
 	return NewWidget;
 }

@@ -95,5 +95,10 @@ UWidget* UWidgetTree::ConstructWidgetOfClass(UClass* WidgetClass, FName WidgetNa
 	{
 		return UUserWidget::CreateWidgetInstance(*this, WidgetClass, WidgetName);
 	}
-	return NewObject<UWidget>(this, WidgetClass, WidgetName);
+	UWidget* NewWidget = NewObject<UWidget>(this, WidgetClass, WidgetName);
+	if (const UUserWidget* Owner = Cast<UUserWidget>(GetOuter()))
+	{
+		NewWidget->SetDesignerFlags(Owner->GetDesignerFlags());
+	}
+	return NewWidget;
 }

@@ -12,7 +12,7 @@ SObjectWidget::~SObjectWidget()
 void SObjectWidget::Construct(const FArguments& InArgs, UUserWidget* InWidgetObject)
 {
 	WidgetObject = InWidgetObject;
-	SetCanTick(InWidgetObject->WantsNativeTick());
+	SetCanTick(!InWidgetObject->IsDesignTime() && InWidgetObject->WantsNativeTick());
 	ChildSlot[InArgs._Content.Widget];
 }
 
