@@ -8,7 +8,7 @@ set(CMAKE_CXX_FLAGS_DEV "-O1 -g1")
 set(CMAKE_CXX_FLAGS_RELEASE "-O2 -g1")
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # GCC 12 raises these falsely where it inlines as much as this; the Dev build has them.
-    string(APPEND CMAKE_CXX_FLAGS_RELEASE " -Wno-array-bounds -Wno-use-after-free")
+    string(APPEND CMAKE_CXX_FLAGS_RELEASE " -Wno-array-bounds -Wno-stringop-overflow -Wno-use-after-free")
 endif()
 set(HALVEX_SANITIZE "" CACHE STRING "Sanitizers, separated by commas; empty for none")
 

@@ -1,29 +1,30 @@
 #include "StyledButton.h"
 
 #include "Blueprint/WidgetTree.h"
-#include "Components/Button.h"
 #include "Components/HorizontalBox.h"
-#include "Components/TextBlock.h"
-#include "Style/HalvexStyleModels.h"
+#include "Widgets/HxButton.h"
+#include "Widgets/HxFontIcon.h"
+#include "Widgets/HxText.h"
 
 FStyledButton::FStyledButton(UWidgetTree& Tree, EButtonContent Content, int32 Number)
 {
-	Button = Tree.ConstructWidget<UButton>();
-	Text = Tree.ConstructWidget<UTextBlock>();
+	Button = Tree.ConstructWidget<UHxButton>();
+	Text = Tree.ConstructWidget<UHxText>();
 	Text->SetText(FText::AsCultureInvariant(FString::Printf(TEXT("Unit %d"), Number)));
+	Text->FontStyle = TEXT("extra-small");
+	Text->ColorText = FHalvexColorHandler(TEXT("Primary"), true);
 	if (Content == EButtonContent::Text)
 	{
 		Button->SetContent(Text);
+		return;
 	}
-	else
-	{
-		Icon = Tree.ConstructWidget<UTextBlock>();
-		UHorizontalBox* Box = Tree.ConstructWidget<UHorizontalBox>();
-		Box->AddChild(Icon);
-		Box->AddChild(Text);
-		Button->SetContent(Box);
-	}
-	Restyle();
+	Icon = Tree.ConstructWidget<UHxFontIcon>();
+	Icon->IconSize = 8;
+	Icon->IconStyling.IconColor = Text->ColorText;
+	UHorizontalBox* Box = Tree.ConstructWidget<UHorizontalBox>();
+	Box->AddChild(Icon);
+	Box->AddChild(Text);
+	Button->SetContent(Box);
 }
 
 UWidget& FStyledButton::GetWidget() const
@@ -38,24 +39,10 @@ void FStyledButton::SetText(const FText& NewText) const
 
 void FStyledButton::Restyle() const
 {
-	const FHalvexButtonStyle Face;
-	FButtonStyle ButtonStyle = Button->GetStyle();
-	Face.CornerStyle.SetCornerBrushButton(ButtonStyle);
-	const FHalvexColorHandler FaceColor(TEXT("Primary"), false);
-	ButtonStyle.Normal.TintColor = FaceColor.GetColorSlate();
-	ButtonStyle.Hovered.TintColor = FaceColor.GetContrastColorSlate();
-	ButtonStyle.Pressed.TintColor = FaceColor.GetContrastColorSlate();
-	Button->SetStyle(ButtonStyle);
-
-	FHalvexTextStyle TextStyle;
-	TextStyle.ColorStyle = FHalvexColorHandler(TEXT("Primary"), true);
-	TextStyle.FontSchema = TEXT("extra-small");
-	UHalvexStyleModels::SetHalvexTextStyle(Text, TextStyle);
+	Button->UpdateStyle();
+	Text->UpdateStyle();
 	if (Icon)
 	{
-		const FFontIconHandler Handler;
-		Icon->SetFont(Handler.GenerateFontSlate(8));
-		Icon->SetText(Handler.GetIconUnicode());
-		Icon->SetColorAndOpacity(TextStyle.ColorStyle.GetColorSlate());
+		Icon->SynchronizeProperties();
 	}
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Styling/SlateTypes.h"
 
-class UButton;
-class UTextBlock;
+class UHxButton;
+class UHxFontIcon;
+class UHxText;
 class UWidget;
 class UWidgetTree;
 
@@ -32,11 +32,11 @@ public:
 
 	void SetText(const FText& NewText) const;
 
-	/** Takes on the project's style as it is now. */
+	/** Takes on the project's style as it is now; the button must be shown. */
 	void Restyle() const;
 
 private:
-	UButton* Button = nullptr;
-	UTextBlock* Icon = nullptr;
-	UTextBlock* Text = nullptr;
+	UHxButton* Button = nullptr;
+	UHxFontIcon* Icon = nullptr;
+	UHxText* Text = nullptr;
 };

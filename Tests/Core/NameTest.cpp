@@ -4,6 +4,7 @@
 #include "TestText.h"
 #include "gtest/gtest.h"
 
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -171,6 +172,21 @@ TEST(NameTest, TheLongestNameHas1023Characters)
 {
 	const FString Longest = FString::ChrN(NAME_SIZE - 1, u'x');
 	EXPECT_EQ(1023, FName(Longest).ToString().Len());
+}
+
+TEST(NameTest, EightBitNamesAreAsLongAsOthers)
+{
+	const std::string Longest(1023, 'n');
+	EXPECT_EQ(FName(Longest.c_str()), FName(*FString::ChrN(1023, 'n')));
+	EXPECT_EQ(FName((Longest + "_2147483646").c_str()).GetNumber(), NAME_EXTERNAL_TO_INTERNAL(2147483646));
+	EXPECT_TRUE(FName(static_cast<const ANSICHAR*>(nullptr)).IsNone());
+}
+
+TEST(NameDeathTest, ALongerEightBitNameHalts)
+{
+	::testing::FLAGS_gtest_death_test_style = "threadsafe";
+	EXPECT_DEATH(FName((std::string(1024, 'n') + "_2147483646").c_str()), "shorter than 1024");
+	EXPECT_DEATH(FName(std::string(5000, 'n').c_str()), "shorter than 1024");
 }
 
 TEST(NameDeathTest, ALongerNameHalts)

@@ -32,6 +32,29 @@ namespace
 		return Digits - 1;
 	}
 
+	/** A text of single bytes widened without touching the heap; what is too long for a name stays too long for one. */
+	class FWidenedName
+	{
+	public:
+		explicit FWidenedName(const ANSICHAR* Name)
+		{
+			while (Name != nullptr && Len < MaxLen && Name[Len] != 0)
+			{
+				Text[Len] = (TCHAR)(uint8)Name[Len];
+				++Len;
+			}
+		}
+
+		FStringView View() const { return FStringView(Text, Len); }
+
+	private:
+		/** With room for the longest number suffix. */
+		static constexpr int32 MaxLen = NAME_SIZE + 11;
+
+		TCHAR Text[MaxLen];
+		int32 Len = 0;
+	};
+
 	int32 NumDigitsOf(uint32 Number)
 	{
 		int32 Digits = 1;
@@ -62,7 +85,7 @@ FName::FName(FStringView Name, EFindName FindType)
 }
 
 FName::FName(const ANSICHAR* Name, EFindName FindType)
-	: FName(FString(Name), FindType)
+	: FName(FWidenedName(Name).View(), FindType)
 {
 }
 
