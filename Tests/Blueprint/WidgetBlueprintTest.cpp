@@ -74,6 +74,19 @@ namespace
 		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "9");
 	}
 
+	TEST_F(FWidgetBlueprintTest, VariablesThatTheParentHasAreOneLineEach)
+	{
+		const Host::FExpectedLog Taken(TEXT("there is a property 'WidgetTree' already."));
+		UClass* Class = Load(TEXT("TakenVariable"), R"({ "Variables": { "WidgetTree": { "Type": "int" } }, "Root": { "Class": "TextBlock", "Name": "Label", "Properties": { "Text": "there" } } })");
+		EXPECT_EQ(GetTextOf(*Show(Class), TEXT("Label")), "there");
+	}
+
+	TEST_F(FWidgetBlueprintTest, ColoursOfWidgetsAreWrittenAsAnyOther)
+	{
+		UClass* Class = Load(TEXT("SlateColour"), R"({ "Root": { "Class": "TextBlock", "Name": "Label", "Properties": { "ColorAndOpacity": "#FF0000" } } })");
+		EXPECT_EQ(CastChecked<UTextBlock>(Show(Class)->GetWidgetFromName(TEXT("Label")))->GetColorAndOpacity(), FSlateColor(FLinearColor(1.0f, 0.0f, 0.0f, 1.0f)));
+	}
+
 	TEST_F(FWidgetBlueprintTest, ButtonsCallTheFunctionsBoundToThem)
 	{
 		UClass* Class = Load(TEXT("Buttons"), R"({ "Root": { "Class": "Button", "Name": "Push", "Children": [ { "Class": "TextBlock", "Name": "Label", "Properties": { "Text": "0" } } ] } })",

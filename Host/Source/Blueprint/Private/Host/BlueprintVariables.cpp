@@ -63,6 +63,18 @@ namespace Host
 		}
 	}
 
+	const FProperty* FindVariable(const UClass& Class, FName Name)
+	{
+		for (TFieldIterator<FProperty> It(&Class); It; ++It)
+		{
+			if (It->GetFName() == Name)
+			{
+				return *It;
+			}
+		}
+		return nullptr;
+	}
+
 	void AddBlueprintVariables(UClass& Class, const FJsonNode& Variables)
 	{
 		// A structure chains its properties by the order of adding.
@@ -75,7 +87,7 @@ namespace Host
 				ReportBlueprintError(Variable, FString::Printf(TEXT("the variable '%s' needs a \"Type\"."), *Name.ToString()));
 				continue;
 			}
-			if (Class.FindPropertyByName(Name))
+			if (FindVariable(Class, Name))
 			{
 				ReportBlueprintError(Variable, FString::Printf(TEXT("there is a property '%s' already."), *Name.ToString()));
 				continue;

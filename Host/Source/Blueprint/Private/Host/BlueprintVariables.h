@@ -1,11 +1,17 @@
 #pragma once
 
+#include "CoreMinimal.h"
+
+class FProperty;
 class UClass;
 class UObject;
 
 namespace Host
 {
 	class FJsonNode;
+
+	/** The property of that name of a class that may not be linked yet, or of one that it derives from; null when there is none. */
+	const FProperty* FindVariable(const UClass& Class, FName Name);
 
 	/**
 	 * Adds the variables of a blueprint as properties of its class: {name: {"Type": type, "Default": value, "Category": text}}.

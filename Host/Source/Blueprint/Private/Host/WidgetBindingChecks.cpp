@@ -1,5 +1,6 @@
 #include "Host/WidgetBindingChecks.h"
 
+#include "Animation/WidgetAnimation.h"
 #include "Blueprint/WidgetBlueprintGeneratedClass.h"
 #include "Blueprint/WidgetTree.h"
 #include "Components/Widget.h"
@@ -8,11 +9,34 @@
 
 namespace Host
 {
+	namespace
+	{
+		void CheckAnimationBinding(const UWidgetBlueprintGeneratedClass& Class, const FObjectProperty& Property, bool bOptional, const FJsonNode& Root)
+		{
+			const FString Name = Property.GetName();
+			const FString Owner = Property.GetOwnerClass()->GetName();
+			if (Property.PropertyClass != UWidgetAnimation::StaticClass())
+			{
+				ReportBlueprintError(Root, FString::Printf(TEXT("'%s' of %s is to be bound to an animation, but is a %s."), *Name, *Owner, *Property.PropertyClass->GetName()));
+			}
+			else if (!bOptional && !Class.FindAnimation(Property.GetFName()))
+			{
+				ReportBlueprintError(Root, FString::Printf(TEXT("an animation '%s' is required by %s."), *Name, *Owner));
+			}
+		}
+	}
+
 	void CheckWidgetBindings(const UWidgetBlueprintGeneratedClass& Class, const FJsonNode& Root)
 	{
 		const UWidgetTree* Tree = Class.FindTreeTemplate();
 		for (TFieldIterator<FObjectProperty> It(&Class); It; ++It)
 		{
+			const bool bOptionalAnimation = It->HasMetaData(TEXT("BindWidgetAnimOptional"));
+			if (bOptionalAnimation || It->HasMetaData(TEXT("BindWidgetAnim")))
+			{
+				CheckAnimationBinding(Class, **It, bOptionalAnimation, Root);
+				continue;
+			}
 			const bool bOptional = It->HasMetaData(TEXT("BindWidgetOptional")) || It->GetBoolMetaData(TEXT("OptionalWidget"));
 			if (!bOptional && !It->HasMetaData(TEXT("BindWidget")))
 			{

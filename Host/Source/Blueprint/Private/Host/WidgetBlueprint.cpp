@@ -3,7 +3,9 @@
 #include "Blueprint/UserWidget.h"
 #include "Blueprint/WidgetBlueprintGeneratedClass.h"
 #include "Blueprint/WidgetTree.h"
+#include "Host/AnimationReader.h"
 #include "Host/AssetLoaders.h"
+#include "Host/BlueprintMembers.h"
 #include "Host/BlueprintReport.h"
 #include "Host/BlueprintVariables.h"
 #include "Host/JsonDocument.h"
@@ -41,24 +43,6 @@ namespace Host
 			}
 			return Parent;
 		}
-
-		void ReportUnknownMembers(const FJsonNode& Root)
-		{
-			static const TCHAR* const Known[] = { TEXT("Parent"), TEXT("Defaults"), TEXT("Variables"), TEXT("Root") };
-			for (const FJsonNode Member : Root)
-			{
-				const FString Key(Member.GetKey());
-				bool bKnown = false;
-				for (const TCHAR* Name : Known)
-				{
-					bKnown |= Key.Equals(Name);
-				}
-				if (!bKnown)
-				{
-					ReportBlueprintError(Member, FString::Printf(TEXT("a widget blueprint has no member \"%s\"."), *Key));
-				}
-			}
-		}
 	}
 
 	UObject* LoadWidgetBlueprint(const FAssetRequest& Request)
@@ -79,13 +63,16 @@ namespace Host
 			ReportBlueprintError(Root, FString::Printf(TEXT("a widget blueprint must be an object, not %s."), DescribeJsonKind(Root.GetKind())));
 			return nullptr;
 		}
-		ReportUnknownMembers(Root);
+		static const TCHAR* const Known[] = { TEXT("Parent"), TEXT("Defaults"), TEXT("Variables"), TEXT("Root"), TEXT("Animations") };
+		ReportUnknownMembers(Root, Known, TEXT("a widget blueprint"));
 
 		const FName ClassName(*(Request.AssetName.ToString() + TEXT("_C")));
 		UWidgetBlueprintGeneratedClass* Class = NewObject<UWidgetBlueprintGeneratedClass>(Request.Package, ClassName, RF_Public | RF_Standalone);
 		Class->SetSuperStruct(ReadParent(Root));
 		Class->ClassFlags &= ~CLASS_Abstract;
 		AddBlueprintVariables(*Class, Root.Find(TEXT("Variables")));
+		const FJsonNode Animations = Root.Find(TEXT("Animations"));
+		AddAnimationVariables(*Class, Animations);
 		LoadWidgetGraph(*Class, Request.Filename);
 		Class->StaticLink();
 
@@ -100,6 +87,7 @@ namespace Host
 		FWidgetTreeReader Reader(*Class->WidgetTreeTemplate);
 		Reader.Read(Root.Find(TEXT("Root")));
 		Class->NamedSlots = Reader.GetNamedSlots();
+		ReadAnimations(*Class, Animations);
 		CheckWidgetBindings(*Class, Root);
 		return Class;
 	}

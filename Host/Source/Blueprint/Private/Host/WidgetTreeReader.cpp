@@ -4,6 +4,7 @@
 #include "Blueprint/WidgetTree.h"
 #include "Components/NamedSlot.h"
 #include "Components/PanelWidget.h"
+#include "Host/BlueprintMembers.h"
 #include "Host/BlueprintReport.h"
 #include "Host/PropertyJson.h"
 #include "Host/WidgetClassNames.h"
@@ -29,7 +30,8 @@ namespace Host
 			ReportBlueprintError(Node, FString::Printf(TEXT("a widget must be an object, not %s."), DescribeJsonKind(Node.GetKind())));
 			return nullptr;
 		}
-		ReportUnknownMembers(Node);
+		static const TCHAR* const Known[] = { TEXT("Class"), TEXT("Name"), TEXT("Properties"), TEXT("Slot"), TEXT("Children"), TEXT("NamedSlots") };
+		ReportUnknownMembers(Node, Known, TEXT("a widget"));
 		UClass* Class = ReadClass(Node);
 		if (!Class)
 		{
@@ -151,24 +153,6 @@ namespace Host
 			else if (UWidget* Content = ReadWidget(ContentNode))
 			{
 				UserWidget->SetContentForSlot(SlotName, Content);
-			}
-		}
-	}
-
-	void FWidgetTreeReader::ReportUnknownMembers(const FJsonNode& Node)
-	{
-		static const TCHAR* const Known[] = { TEXT("Class"), TEXT("Name"), TEXT("Properties"), TEXT("Slot"), TEXT("Children"), TEXT("NamedSlots") };
-		for (const FJsonNode Member : Node)
-		{
-			const FString Key(Member.GetKey());
-			bool bKnown = false;
-			for (const TCHAR* Name : Known)
-			{
-				bKnown |= Key.Equals(Name);
-			}
-			if (!bKnown)
-			{
-				ReportBlueprintError(Member, FString::Printf(TEXT("a widget has no member \"%s\"."), *Key));
 			}
 		}
 	}

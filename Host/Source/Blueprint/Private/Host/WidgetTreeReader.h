@@ -32,7 +32,6 @@ namespace Host
 		void ReadPropertiesLater(const FJsonNode& Properties, UObject& Object);
 		void ReadChildren(const FJsonNode& Children, UWidget& Parent);
 		void ReadNamedSlots(const FJsonNode& Slots, UWidget& Widget);
-		void ReportUnknownMembers(const FJsonNode& Node);
 
 		/** Properties of a widget or of its place, to be read once all widgets are there: they may name widgets further down. */
 		struct FUnreadProperties

@@ -1,5 +1,6 @@
 #include "Lua/LuaFunctionCall.h"
 
+#include "GraphCallback.h"
 #include "Host/BlueprintReport.h"
 #include "Lua/LuaApi.h"
 #include "Lua/LuaMachine.h"
@@ -53,10 +54,25 @@ namespace Host
 			return Property.HasAnyPropertyFlags(CPF_OutParm) && !Property.HasAnyPropertyFlags(CPF_ReturnParm | CPF_ConstParm);
 		}
 
+		/** Binds a delegate to the function at the index, for as long as the object that is called lives. */
+		void ReadDelegate(lua_State* State, int Index, UObject& Self, const FDelegateProperty& Property, void* Value)
+		{
+			lua_pushvalue(State, Index);
+			UGraphCallback* Callback = UGraphCallback::Make(Self, *Property.SignatureFunction, State);
+			FScriptDelegate Delegate;
+			Delegate.BindUFunction(Callback, Callback->GetFunctionName());
+			Property.SetPropertyValue(Value, Delegate);
+		}
+
 		/** Reads what the script passed, or the default that the declaration names. */
-		bool ReadParameter(lua_State* State, int Index, const UFunction& Function, const FProperty& Property, void* Parms, FString& OutReason)
+		bool ReadParameter(lua_State* State, int Index, UObject& Self, const UFunction& Function, const FProperty& Property, void* Parms, FString& OutReason)
 		{
 			void* Value = Property.ContainerPtrToValuePtr<void>(Parms);
+			if (const FDelegateProperty* Delegate = CastField<FDelegateProperty>(&Property); Delegate && lua_isfunction(State, Index))
+			{
+				ReadDelegate(State, Index, Self, *Delegate, Value);
+				return true;
+			}
 			if (!lua_isnoneornil(State, Index))
 			{
 				return ReadLuaValue(State, Index, Property, Value, OutReason);
@@ -85,7 +101,7 @@ namespace Host
 			for (TFieldIterator<FProperty> It(&Function); It; ++It)
 			{
 				FString Reason;
-				if (!IsReturn(**It) && !ReadParameter(State, Argument++, Function, **It, Parameters.Get(), Reason))
+				if (!IsReturn(**It) && !ReadParameter(State, Argument++, *Self, Function, **It, Parameters.Get(), Reason))
 				{
 					return luaL_error(State, "%s, parameter %s: %s", TCHAR_TO_UTF8(*Function.GetName()), TCHAR_TO_UTF8(*It->GetName()), TCHAR_TO_UTF8(*Reason));
 				}

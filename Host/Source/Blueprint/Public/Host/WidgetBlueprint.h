@@ -18,6 +18,7 @@ namespace Host
 	 *     "Defaults": {property: value}, for the class default object
 	 *     "Variables": {name: {"Type": type, "Default": value, "Category": text}}
 	 *     "Root": widget
+	 *     "Animations": {name: animation}
 	 *   }
 	 *
 	 * where a widget is
@@ -29,6 +30,17 @@ namespace Host
 	 *     "Slot": {property: value}, for the place in the parent
 	 *     "Children": [widget]
 	 *     "NamedSlots": {name: widget}, for another blueprint with holes
+	 *   }
+	 *
+	 * an animation is
+	 *
+	 *   {
+	 *     "Duration": seconds; up to the last key when left out
+	 *     "Tracks": [{
+	 *       "Widget": name of the widget whose property changes; the blueprint's own when left out
+	 *       "Property": "RenderOpacity", or a part of a structure, "RenderTransform.Angle"
+	 *       "Keys": [{"Time": seconds, "Value": value, "Interpolation": "Constant", "Linear" or "Cubic"}], in order of time
+	 *     }]
 	 *   }
 	 *
 	 * and the functions of the graph come from the ".lua" file of the same name, if there is one. What is wrong is one line in

@@ -8,7 +8,8 @@ namespace Host
 	bool FPropertyJsonReader::Fail(const FJsonNode& Node, const FString& What)
 	{
 		++NumMessages;
-		Report(FString::Printf(TEXT("%s: property '%s': %s"), *Node.Where(), *Path, *What));
+		// A value that is read on its own is no property of anything.
+		Report(Path.IsEmpty() ? FString::Printf(TEXT("%s: %s"), *Node.Where(), *What) : FString::Printf(TEXT("%s: property '%s': %s"), *Node.Where(), *Path, *What));
 		return false;
 	}
 

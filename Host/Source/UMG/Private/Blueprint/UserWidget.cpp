@@ -18,6 +18,7 @@ UUserWidget::UUserWidget(const FObjectInitializer& ObjectInitializer)
 	, bIsFocusable(false)
 	, bInitialized(false)
 	, bConstructed(false)
+	, bStoppingAllAnimations(false)
 {
 	// The designer's root fills its screen and lets what lies below be hit where it is empty.
 	SetVisibility(ESlateVisibility::SelfHitTestInvisible);
@@ -238,6 +239,7 @@ void UUserWidget::OnWidgetRebuilt()
 		bConstructed = true;
 		NativeConstruct();
 	}
+	UpdateAnimationTimer();
 }
 
 void UUserWidget::OnSlateWidgetReleased()
@@ -247,6 +249,8 @@ void UUserWidget::OnSlateWidgetReleased()
 		bConstructed = false;
 		NativeDestruct();
 	}
+	AnimationTimer.Reset();
+	DropAnimationsUnlessShown();
 	// Dropped so that the next time it is shown everything is built and constructed anew.
 	ReleaseSlateResources(true);
 }

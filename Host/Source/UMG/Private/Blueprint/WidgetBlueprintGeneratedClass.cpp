@@ -1,5 +1,6 @@
 #include "Blueprint/WidgetBlueprintGeneratedClass.h"
 
+#include "Animation/WidgetAnimation.h"
 #include "Blueprint/UserWidget.h"
 #include "Blueprint/WidgetTree.h"
 #include "UObject/UnrealType.h"
@@ -33,6 +34,7 @@ void UWidgetBlueprintGeneratedClass::InitializeWidget(UUserWidget* UserWidget) c
 	}
 	for (const UWidgetBlueprintGeneratedClass* Class : Line)
 	{
+		Class->BindAnimations(*UserWidget);
 		if (Class->OnInstanceInitialized)
 		{
 			Class->OnInstanceInitialized(*UserWidget);
@@ -66,4 +68,28 @@ void UWidgetBlueprintGeneratedClass::BindWidgets(UUserWidget& UserWidget) const
 			Property->SetObjectPropertyValue_InContainer(&UserWidget, Widget);
 		}
 	});
+}
+
+UWidgetAnimation* UWidgetBlueprintGeneratedClass::FindAnimation(FName Name) const
+{
+	for (const UWidgetBlueprintGeneratedClass* Class = this; Class; Class = FindFor(Class->GetSuperClass()))
+	{
+		if (const TObjectPtr<UWidgetAnimation>* Found = Class->Animations.FindByPredicate([Name](const UWidgetAnimation* Animation) { return Animation->GetFName() == Name; }))
+		{
+			return *Found;
+		}
+	}
+	return nullptr;
+}
+
+void UWidgetBlueprintGeneratedClass::BindAnimations(UUserWidget& UserWidget) const
+{
+	for (UWidgetAnimation* Animation : Animations)
+	{
+		const FObjectPropertyBase* Property = FindFProperty<FObjectPropertyBase>(UserWidget.GetClass(), Animation->GetFName());
+		if (Property && Animation->IsA(Property->PropertyClass))
+		{
+			Property->SetObjectPropertyValue_InContainer(&UserWidget, Animation);
+		}
+	}
 }

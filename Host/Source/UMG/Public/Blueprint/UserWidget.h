@@ -1,15 +1,20 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Animation/UMGSequencePlayMode.h"
+#include "Animation/WidgetAnimationEvents.h"
 #include "Components/NamedSlotInterface.h"
 #include "Components/SlateWrapperTypes.h"
 #include "Components/Widget.h"
 #include "Input/Events.h"
 #include "Templates/SubclassOf.h"
+#include "Widgets/ActiveTimerHandle.h"
 #include "UserWidget.generated.h"
 
 class APlayerController;
 class UGameInstance;
+class UUMGSequencePlayer;
+class UWidgetAnimation;
 class UWidgetTree;
 
 /** When a user widget is ticked. */
@@ -118,6 +123,116 @@ public:
 	UFUNCTION(BlueprintImplementableEvent, BlueprintCosmetic, Category = "User Interface")
 	void Tick(FGeometry MyGeometry, float InDeltaTime);
 
+	/** Called when an animation begins to play. */
+	UFUNCTION(BlueprintNativeEvent, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void OnAnimationStarted(const UWidgetAnimation* Animation);
+
+	/** Called when an animation has played to its end, or was stopped. */
+	UFUNCTION(BlueprintNativeEvent, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void OnAnimationFinished(const UWidgetAnimation* Animation);
+
+	/**
+	 * Plays an animation. What it changes is set in the next frame, or by FlushAnimations. It goes on while the widget is shown,
+	 * waits when it was not shown yet, and ends without an event when the widget is shown no longer.
+	 * @param StartAtTime		seconds from the animation's start (in reverse, back from its end) where the first loop starts
+	 * @param NumLoopsToPlay	how often it plays, 0 for no end
+	 * @param PlaybackSpeed		seconds of the animation a second
+	 * @param bRestoreState		gives the widgets back what they were before, once the animation stops
+	 * @return what plays it, the one that played it before if it was playing; null without an animation
+	 */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API UUMGSequencePlayer* PlayAnimation(UWidgetAnimation* InAnimation, float StartAtTime = 0.0f, int32 NumLoopsToPlay = 1, EUMGSequencePlayMode::Type PlayMode = EUMGSequencePlayMode::Forward, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
+
+	/**
+	 * As PlayAnimation, for a part of the animation.
+	 * @param EndAtTime seconds from the animation's start where the last loop ends
+	 */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API UUMGSequencePlayer* PlayAnimationTimeRange(UWidgetAnimation* InAnimation, float StartAtTime = 0.0f, float EndAtTime = 0.0f, int32 NumLoopsToPlay = 1, EUMGSequencePlayMode::Type PlayMode = EUMGSequencePlayMode::Forward, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
+
+	/** Plays an animation forward from where it is: one that plays in reverse turns round, one that does not play starts. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API UUMGSequencePlayer* PlayAnimationForward(UWidgetAnimation* InAnimation, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
+
+	/** Plays an animation in reverse from where it is: one that plays forward turns round, one that does not play starts at its end. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API UUMGSequencePlayer* PlayAnimationReverse(UWidgetAnimation* InAnimation, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
+
+	/** Ends an animation where it is. Nothing happens when it is not playing. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void StopAnimation(const UWidgetAnimation* InAnimation);
+
+	/** Ends all animations where they are. What listens for their end cannot play one meanwhile. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void StopAllAnimations();
+
+	/** Halts an animation. Returns the seconds from its start where it is, to play it on from there; 0 when it is not playing. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API float PauseAnimation(const UWidgetAnimation* InAnimation);
+
+	/** Seconds from the animation's start where it is; 0 when it is neither playing nor paused. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API float GetAnimationCurrentTime(const UWidgetAnimation* InAnimation) const;
+
+	/** Moves an animation that is playing or paused to a time, and leaves it playing or paused. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void SetAnimationCurrentTime(const UWidgetAnimation* InAnimation, float InTime);
+
+	/** Whether the animation is playing; a paused one is not. */
+	UFUNCTION(BlueprintCallable, BlueprintPure, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API bool IsAnimationPlaying(const UWidgetAnimation* InAnimation) const;
+
+	/** Whether any animation of the widget is playing. */
+	UFUNCTION(BlueprintCallable, BlueprintPure, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API bool IsAnyAnimationPlaying() const;
+
+	/** Changes how often a playing animation plays, counted from its start; 0 for no end. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void SetNumLoopsToPlay(const UWidgetAnimation* InAnimation, int32 NumLoopsToPlay);
+
+	/** Changes the speed of a playing animation, in seconds of the animation a second. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void SetPlaybackSpeed(const UWidgetAnimation* InAnimation, float PlaybackSpeed = 1.0f);
+
+	/** Turns a playing animation round. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void ReverseAnimation(const UWidgetAnimation* InAnimation);
+
+	/** True when the animation is playing, towards its end. */
+	UFUNCTION(BlueprintCallable, BlueprintPure, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API bool IsAnimationPlayingForward(const UWidgetAnimation* InAnimation) const;
+
+	/** Sets what the widget's animations are to set in the next frame now. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void FlushAnimations();
+
+	/** Calls the delegate whenever the animation begins to play. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void BindToAnimationStarted(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate);
+
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void UnbindFromAnimationStarted(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate);
+
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void UnbindAllFromAnimationStarted(UWidgetAnimation* Animation);
+
+	/** Calls the delegate whenever the animation has played to its end, or was stopped. */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void BindToAnimationFinished(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate);
+
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void UnbindFromAnimationFinished(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate);
+
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void UnbindAllFromAnimationFinished(UWidgetAnimation* Animation);
+
+	/**
+	 * Calls the delegate at an event of the animation.
+	 * @param UserTag only for what plays it under that tag (UUMGSequencePlayer::SetUserTag); none for any
+	 */
+	UFUNCTION(BlueprintCallable, BlueprintCosmetic, Category = "User Interface|Animation")
+	UMG_API void BindToAnimationEvent(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate, EWidgetAnimationEvent AnimationEvent, FName UserTag = NAME_None);
+
 	/** A mouse button was pressed over the widget. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintCosmetic, Category = "Mouse")
 	FEventReply OnMouseButtonDown(FGeometry MyGeometry, const FPointerEvent& MouseEvent);
@@ -167,6 +282,13 @@ protected:
 	UMG_API virtual void NativeDestruct();
 	UMG_API virtual void NativeTick(const FGeometry& MyGeometry, float InDeltaTime);
 
+	UMG_API virtual void OnAnimationStarted_Implementation(const UWidgetAnimation* Animation);
+	UMG_API virtual void OnAnimationFinished_Implementation(const UWidgetAnimation* Animation);
+	/** Raises the events of an animation that begins to play. */
+	UMG_API virtual void OnAnimationStartedPlaying(UUMGSequencePlayer& Player);
+	/** Raises the events of an animation that has come to its end, or was stopped. */
+	UMG_API virtual void OnAnimationFinishedPlaying(UUMGSequencePlayer& Player);
+
 	UMG_API virtual FReply NativeOnFocusReceived(const FGeometry& InGeometry, const FFocusEvent& InFocusEvent);
 	UMG_API virtual void NativeOnFocusLost(const FFocusEvent& InFocusEvent);
 	UMG_API virtual FReply NativeOnKeyChar(const FGeometry& InGeometry, const FCharacterEvent& InCharEvent);
@@ -197,12 +319,40 @@ private:
 	bool HasPlayerContext() const;
 	static UUserWidget* CreateInstanceInternal(UObject& Outer, UClass* UserWidgetClass, FName WidgetName, UWorld* World, APlayerController* Player);
 
+	UUMGSequencePlayer* FindSequencePlayer(const UWidgetAnimation* InAnimation) const;
+	UUMGSequencePlayer* FindOrAddSequencePlayer(UWidgetAnimation& InAnimation);
+	UUMGSequencePlayer* StartAnimation(UWidgetAnimation* InAnimation, float StartAtTime, TOptional<double> EndAtTime, int32 NumLoopsToPlay, EUMGSequencePlayMode::Type PlayMode, float PlaybackSpeed, bool bRestoreState);
+	/** Plays on in a direction, or starts in the mode of that direction. */
+	UUMGSequencePlayer* PlayAnimationTowards(UWidgetAnimation* InAnimation, EUMGSequencePlayMode::Type Direction, float PlaybackSpeed, bool bRestoreState);
+	void FinishAnimation(UUMGSequencePlayer& Player);
+	/** Asks the Slate side for frames while animations need them. */
+	void UpdateAnimationTimer();
+	bool NeedsAnimationTick() const;
+	EActiveTimerReturnType TickAnimations(double CurrentTime, float DeltaTime);
+	/** Ends all animations, unless the widget is shown again by the next frame. */
+	void DropAnimationsUnlessShown();
+	void BroadcastAnimationEvent(const UUMGSequencePlayer& Player, EWidgetAnimationEvent AnimationEvent);
+	void UnbindAllFromAnimationEvent(const UWidgetAnimation* Animation, EWidgetAnimationEvent AnimationEvent);
+	void UnbindFromAnimationEvent(const UWidgetAnimation* Animation, const FWidgetAnimationDynamicEvent& Delegate, EWidgetAnimationEvent AnimationEvent);
+
+	/** What plays or is paused, in the order of starting. */
+	UPROPERTY(Transient)
+	TArray<TObjectPtr<UUMGSequencePlayer>> ActiveSequencePlayers;
+
+	/** Who listens for animations. */
+	UPROPERTY(Transient)
+	TArray<FAnimationEventBinding> AnimationCallbacks;
+
 	/** Whether the widget can have the keyboard. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Interaction", meta = (AllowPrivateAccess = "true"))
 	uint8 bIsFocusable : 1;
 
 	uint8 bInitialized : 1;
 	uint8 bConstructed : 1;
+	uint8 bStoppingAllAnimations : 1;
+
+	/** Makes the frames of animations; the Slate side owns it. */
+	TWeakPtr<FActiveTimerHandle> AnimationTimer;
 
 	/** What stands in the viewport, which owns it: a viewport that is emptied lets go of the widget. */
 	TWeakPtr<SWidget> ViewportContent;

@@ -5,6 +5,7 @@
 #include "WidgetBlueprintGeneratedClass.generated.h"
 
 class UUserWidget;
+class UWidgetAnimation;
 class UWidgetTree;
 
 /** The class that a widget blueprint makes: a native parent, and the tree of widgets that each instance gets a copy of. */
@@ -17,6 +18,10 @@ public:
 	/** The tree that instances copy; null for a blueprint that takes its parent's. */
 	UPROPERTY()
 	TObjectPtr<UWidgetTree> WidgetTreeTemplate;
+
+	/** What instances can play; each is called as the variable that holds it. */
+	UPROPERTY()
+	TArray<TObjectPtr<UWidgetAnimation>> Animations;
 
 	/** Names of the holes that users of the widget fill. */
 	UPROPERTY()
@@ -34,6 +39,10 @@ public:
 	/** The tree that instances copy: the blueprint's own, or its parent's; null when there is none. */
 	UMG_API const UWidgetTree* FindTreeTemplate() const;
 
+	/** The animation of that name, of this blueprint or of one that it derives from; null when there is none. */
+	UMG_API UWidgetAnimation* FindAnimation(FName Name) const;
+
 private:
 	void BindWidgets(UUserWidget& UserWidget) const;
+	void BindAnimations(UUserWidget& UserWidget) const;
 };
