@@ -17,7 +17,9 @@ local function AddRow(self, Panel, Name, Details, Sample)
 	end
 	local Row = CreateWidget(self, "HorizontalBox")
 	Kit.Add(Row, Kit.Sized(self, Label, 176), { VerticalAlignment = "VAlign_Center" })
-	Kit.Add(Row, Sample, { VerticalAlignment = "VAlign_Center" })
+	-- The largest sizes need more room than a narrow window has.
+	Sample:SetTextOverflowPolicy("Ellipsis")
+	Kit.Add(Row, Sample, { VerticalAlignment = "VAlign_Center", Size = { SizeRule = "Fill", Value = 1 } })
 	Kit.Add(Panel, Row, { Padding = Kit.Margin(0, 9, 0, 9) })
 end
 

@@ -1,14 +1,10 @@
 #include "Host/AutomationDriver.h"
 
-#include "Blueprint/UserWidget.h"
-#include "Blueprint/WidgetTree.h"
-#include "Components/PanelWidget.h"
-#include "Components/TextBlock.h"
+#include "Components/Widget.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Host/Clock.h"
 #include "Host/EngineLoop.h"
-#include "Input/Events.h"
-#include "UObject/UObjectIterator.h"
-#include "Widgets/SWindow.h"
+#include "Host/PropertyEdit.h"
 
 namespace Host
 {
@@ -16,87 +12,47 @@ namespace Host
 	{
 		/** Length of the frames that steps end with, in seconds. */
 		constexpr double FrameTime = 1.0 / 60.0;
+		/** Less than any frame: what rounding may leave of a time. */
+		constexpr double TimeTolerance = 1.0e-6;
+	}
 
-		bool IsOfName(const UWidget& Widget, const FString& Name)
-		{
-			return Widget.GetName().Equals(Name);
-		}
+	// What is to be seen.
 
-		/** Whether a widget of that name stands somewhere around, in its tree or in one further out. */
-		bool IsInside(const UWidget& Widget, const FString& OuterName)
-		{
-			for (const UObject* Outer = &Widget; Outer; Outer = Outer->GetOuter())
-			{
-				const UWidget* OuterWidget = Cast<UWidget>(Outer);
-				for (const UWidget* Parent = OuterWidget ? OuterWidget->GetParent() : nullptr; Parent; Parent = Parent->GetParent())
-				{
-					if (IsOfName(*Parent, OuterName))
-					{
-						return true;
-					}
-				}
-				if (OuterWidget && OuterWidget != &Widget && IsOfName(*OuterWidget, OuterName))
-				{
-					return true;
-				}
-			}
-			return false;
-		}
-
-		bool Matches(const UWidget& Widget, const FString& Locator)
-		{
-			if (Locator.StartsWith(TEXT("text:")))
-			{
-				const UTextBlock* Text = Cast<UTextBlock>(&Widget);
-				return Text && Text->GetText().ToString().Equals(Locator.RightChop(5));
-			}
-			if (Locator.StartsWith(TEXT("class:")))
-			{
-				return Widget.GetClass()->GetName() == Locator.RightChop(6);
-			}
-			TArray<FString> Names;
-			Locator.ParseIntoArray(Names, TEXT("/"));
-			if (Names.IsEmpty() || !IsOfName(Widget, Names.Pop()))
-			{
-				return false;
-			}
-			for (const FString& OuterName : Names)
-			{
-				if (!IsInside(Widget, OuterName))
-				{
-					return false;
-				}
-			}
-			return true;
-		}
-
-		FModifierKeysState ToModifiers(const FString& Modifiers)
-		{
-			const bool bShift = Modifiers.Contains(TEXT("Shift"));
-			const bool bControl = Modifiers.Contains(TEXT("Ctrl"));
-			const bool bAlt = Modifiers.Contains(TEXT("Alt"));
-			return FModifierKeysState(bShift, false, bControl, false, bAlt, false, false, false, false);
-		}
+	bool FAutomationDriver::Locate(const FString& Locator, FFoundWidget& OutFound)
+	{
+		return FWidgetFinder::Find(Locator, OutFound, Error);
 	}
 
 	UWidget* FAutomationDriver::Find(const FString& Locator) const
 	{
-		UWidget* Found = nullptr;
-		for (TObjectIterator<UUserWidget> It; It && !Found; ++It)
+		const TArray<FFoundWidget> Found = FWidgetFinder::FindAll(Locator);
+		return Found.IsEmpty() ? nullptr : Found[0].Object;
+	}
+
+	UWidget* FAutomationDriver::FindOne(const FString& Locator)
+	{
+		FFoundWidget Found;
+		return Locate(Locator, Found) ? Found.Object : nullptr;
+	}
+
+	int32 FAutomationDriver::Count(const FString& Locator) const
+	{
+		return FWidgetFinder::FindAll(Locator).Num();
+	}
+
+	bool FAutomationDriver::Read(const FString& Locator, const FString& PropertyPath, FString& OutText)
+	{
+		FFoundWidget Found;
+		if (!Locate(Locator, Found))
 		{
-			if (!It->IsInViewport() || !It->WidgetTree)
-			{
-				continue;
-			}
-			It->WidgetTree->ForEachWidgetAndDescendants([&](UWidget* Widget)
-			{
-				if (!Found && Widget->IsRendered() && Matches(*Widget, Locator))
-				{
-					Found = Widget;
-				}
-			});
+			return false;
 		}
-		return Found;
+		if (!Found.Object)
+		{
+			Error = FString::Printf(TEXT("'%s' has no properties: only Slate knows it"), *Locator);
+			return false;
+		}
+		return FPropertyEdit::GetAsText(Found.Object, PropertyPath, OutText, Error);
 	}
 
 	FVector2D FAutomationDriver::GetMiddle(const UWidget& Widget) const
@@ -105,72 +61,25 @@ namespace Host
 		return FVector2D(Geometry.LocalToAbsolute(FVector2D(Geometry.GetLocalSize()) * 0.5));
 	}
 
-	void FAutomationDriver::MoveTo(FVector2D Position)
+	bool FAutomationDriver::FindPoint(const FString& Locator, FVector2D& OutPoint)
 	{
-		const FVector2D Last = Cursor;
-		Cursor = Position;
-		FSlateApplication::Get().SetCursorPos(Position);
-		FSlateApplication::Get().ProcessMouseMoveEvent(FPointerEvent(0, Cursor, Last, PressedButtons, FKey(), 0.0f, FModifierKeysState()));
-		RunFrame();
+		FFoundWidget Found;
+		return Locate(Locator, Found) && FWidgetFinder::FindPoint(Found, OutPoint, Error);
 	}
 
-	void FAutomationDriver::Press(FKey Button)
-	{
-		PressedButtons.Add(Button);
-		FSlateApplication::Get().ProcessMouseButtonDownEvent(Loop.GetWindow()->GetNativeWindow(), FPointerEvent(0, Cursor, Cursor, PressedButtons, Button, 0.0f, FModifierKeysState()));
-		RunFrame();
-	}
-
-	void FAutomationDriver::Release(FKey Button)
-	{
-		PressedButtons.Remove(Button);
-		FSlateApplication::Get().ProcessMouseButtonUpEvent(FPointerEvent(0, Cursor, Cursor, PressedButtons, Button, 0.0f, FModifierKeysState()));
-		RunFrame();
-	}
-
-	void FAutomationDriver::ClickAt(FVector2D Position, FKey Button)
-	{
-		MoveTo(Position);
-		Press(Button);
-		Release(Button);
-	}
-
-	void FAutomationDriver::Wheel(float Delta)
-	{
-		FSlateApplication::Get().ProcessMouseWheelOrGestureEvent(FPointerEvent(0, Cursor, Cursor, PressedButtons, EKeys::MouseWheelAxis, Delta, FModifierKeysState()));
-		RunFrame();
-	}
-
-	void FAutomationDriver::Type(const FString& Text)
-	{
-		for (const TCHAR Character : Text)
-		{
-			FSlateApplication::Get().ProcessKeyCharEvent(FCharacterEvent(Character, FModifierKeysState(), 0, false));
-		}
-		RunFrame();
-	}
-
-	void FAutomationDriver::PressKey(FKey Key, const FString& Modifiers)
-	{
-		const FKeyEvent Event(Key, ToModifiers(Modifiers), 0, false, 0, 0);
-		FSlateApplication::Get().ProcessKeyDownEvent(Event);
-		FSlateApplication::Get().ProcessKeyUpEvent(Event);
-		RunFrame();
-	}
+	// Time.
 
 	void FAutomationDriver::Wait(double Seconds)
 	{
-		for (double Passed = 0.0; Passed < Seconds; Passed += FrameTime)
-		{
-			RunFrame();
-		}
+		WaitUntil([] { return false; }, Seconds);
 	}
 
 	bool FAutomationDriver::WaitUntil(TFunctionRef<bool()> Condition, double Seconds)
 	{
-		for (double Passed = 0.0; !Condition(); Passed += FrameTime)
+		const double End = FClock::Now() + Seconds - TimeTolerance;
+		while (!Condition())
 		{
-			if (Passed >= Seconds)
+			if (FClock::Now() >= End || Loop.IsExitRequested())
 			{
 				return false;
 			}
@@ -178,6 +87,24 @@ namespace Host
 		}
 		return true;
 	}
+
+	bool FAutomationDriver::WaitFor(const FString& Locator, double Seconds)
+	{
+		FFoundWidget Found;
+		if (!WaitUntil([&] { return Locate(Locator, Found); }, Seconds))
+		{
+			Error = FString::Printf(TEXT("after %g seconds "), Seconds) + Error;
+			return false;
+		}
+		return true;
+	}
+
+	void FAutomationDriver::RunFrame()
+	{
+		Loop.Step(FrameTime);
+	}
+
+	// Pictures.
 
 	bool FAutomationDriver::TakePicture(const FString& Filename, FString& OutError)
 	{
@@ -190,8 +117,35 @@ namespace Host
 		return SavePicture(Filename, Picture, OutError);
 	}
 
-	void FAutomationDriver::RunFrame()
+	bool FAutomationDriver::TakePictureOf(const FString& Locator, FPicture& OutPicture)
 	{
-		Loop.RunFrame(FrameTime);
+		FFoundWidget Found;
+		FSlateRect Rect;
+		FPicture Whole;
+		if (!Locate(Locator, Found) || !FWidgetFinder::FindViewRect(Found, Rect, Error))
+		{
+			return false;
+		}
+		RunFrame();
+		if (!Loop.TakePicture(Whole))
+		{
+			Error = TEXT("there is nothing to take a picture of.");
+			return false;
+		}
+		const FIntPoint First(FMath::Max(FMath::FloorToInt32(Rect.Left), 0), FMath::Max(FMath::FloorToInt32(Rect.Top), 0));
+		const FIntPoint Behind(FMath::Min(FMath::CeilToInt32(Rect.Right), Whole.Size.X), FMath::Min(FMath::CeilToInt32(Rect.Bottom), Whole.Size.Y));
+		OutPicture.Size = Behind - First;
+		OutPicture.Pixels.Reset(OutPicture.Size.X * OutPicture.Size.Y);
+		for (int32 Y = First.Y; Y < Behind.Y; ++Y)
+		{
+			OutPicture.Pixels.Append(&Whole.At(First.X, Y), OutPicture.Size.X);
+		}
+		return true;
+	}
+
+	bool FAutomationDriver::TakePictureOf(const FString& Locator, const FString& Filename)
+	{
+		FPicture Picture;
+		return TakePictureOf(Locator, Picture) && SavePicture(Filename, Picture, Error);
 	}
 }

@@ -1,15 +1,24 @@
 #include "Host/AutomationScript.h"
 
 #include "Components/Widget.h"
+#include "Host/PropertyEdit.h"
 
 namespace Host
 {
+	namespace
+	{
+		/** Seconds that a script waits for something unless it says how many. */
+		constexpr double DefaultWait = 5.0;
+	}
+
 	FAutomationScript::FAutomationScript(FEngineLoop& Loop)
 		: Driver(Loop)
 	{
+		AddLookingFunctions();
 		AddMouseFunctions();
 		AddKeyboardFunctions();
-		AddFlowFunctions();
+		AddTimeFunctions();
+		AddPictureFunctions();
 	}
 
 	bool FAutomationScript::RunFile(const FString& Filename)
@@ -17,56 +26,53 @@ namespace Host
 		return Scripts.RunFile(Filename);
 	}
 
-	FVector2D FAutomationScript::GetPlace(const FScriptCall& Call) const
+	void FAutomationScript::Require(const FScriptCall& Call, bool bDone) const
 	{
-		if (!Call.IsString(1))
+		if (!bDone)
 		{
-			return FVector2D(Call.GetNumber(1), Call.GetNumber(2));
+			Call.Fail(Driver.GetError());
 		}
-		const FString Locator = Call.GetString(1);
-		const UWidget* Widget = Driver.Find(Locator);
-		if (!Widget)
-		{
-			Call.Fail(FString::Printf(TEXT("there is no widget '%s'"), *Locator));
-		}
-		return Driver.GetMiddle(*Widget);
 	}
 
-	void FAutomationScript::AddMouseFunctions()
+	void FAutomationScript::AddLookingFunctions()
 	{
-		Scripts.AddFunction(TEXT("Move"), [this](FScriptCall& Call) { Driver.MoveTo(GetPlace(Call)); });
-		Scripts.AddFunction(TEXT("Press"), [this](FScriptCall&) { Driver.Press(); });
-		Scripts.AddFunction(TEXT("Release"), [this](FScriptCall&) { Driver.Release(); });
-		Scripts.AddFunction(TEXT("Click"), [this](FScriptCall& Call) { Driver.ClickAt(GetPlace(Call)); });
-		Scripts.AddFunction(TEXT("Wheel"), [this](FScriptCall& Call) { Driver.Wheel(static_cast<float>(Call.GetNumber(1))); });
-	}
-
-	void FAutomationScript::AddKeyboardFunctions()
-	{
-		Scripts.AddFunction(TEXT("Type"), [this](FScriptCall& Call) { Driver.Type(Call.GetString(1)); });
-		Scripts.AddFunction(TEXT("Key"), [this](FScriptCall& Call)
+		Scripts.AddFunction(TEXT("Find"), [this](FScriptCall& Call)
 		{
-			const FKey Key(*Call.GetString(1));
-			if (!Key.IsValid())
+			const FString Locator = Call.GetString(1);
+			const UWidget* Widget = Driver.FindOne(Locator);
+			if (!Widget && Driver.Count(Locator) > 1)
 			{
-				Call.Fail(FString::Printf(TEXT("there is no key '%s'"), *Call.GetString(1)));
+				Call.Fail(Driver.GetError());
 			}
-			Driver.PressKey(Key, Call.GetString(2, FString()));
+			Call.Return(static_cast<const UObject*>(Widget));
+		});
+		Scripts.AddFunction(TEXT("Count"), [this](FScriptCall& Call) { Call.Return(Driver.Count(Call.GetString(1))); });
+		Scripts.AddFunction(TEXT("Read"), [this](FScriptCall& Call)
+		{
+			UWidget* Widget = Driver.FindOne(Call.GetString(1));
+			Require(Call, Widget != nullptr);
+			const FProperty* Property = nullptr;
+			const void* Value = nullptr;
+			FString Reason;
+			if (!FPropertyEdit::FindValue(Widget, Call.GetString(2), Property, Value, Reason))
+			{
+				Call.Fail(Reason);
+			}
+			Call.Return(*Property, Value);
 		});
 	}
 
-	void FAutomationScript::AddFlowFunctions()
+	void FAutomationScript::AddTimeFunctions()
 	{
-		Scripts.AddFunction(TEXT("Find"), [this](FScriptCall& Call) { Call.Return(static_cast<const UObject*>(Driver.Find(Call.GetString(1)))); });
 		Scripts.AddFunction(TEXT("Wait"), [this](FScriptCall& Call) { Driver.Wait(Call.GetNumber(1)); });
 		Scripts.AddFunction(TEXT("WaitUntil"), [this](FScriptCall& Call)
 		{
-			constexpr double DefaultSeconds = 5.0;
-			if (!Driver.WaitUntil([&Call] { return Call.CallCondition(1); }, Call.GetNumber(2, DefaultSeconds)))
+			if (!Driver.WaitUntil([&Call] { return Call.CallCondition(1); }, Call.GetNumber(2, DefaultWait)))
 			{
-				Call.Fail(TEXT("what was waited for did not come"));
+				Call.Fail(FString::Printf(TEXT("what was waited for did not come within %g seconds"), Call.GetNumber(2, DefaultWait)));
 			}
 		});
+		Scripts.AddFunction(TEXT("WaitFor"), [this](FScriptCall& Call) { Require(Call, Driver.WaitFor(Call.GetString(1), Call.GetNumber(2, DefaultWait))); });
 		Scripts.AddFunction(TEXT("Expect"), [](FScriptCall& Call)
 		{
 			if (!Call.IsTrue(1))
@@ -74,6 +80,10 @@ namespace Host
 				Call.Fail(Call.GetString(2, TEXT("an expectation does not hold")));
 			}
 		});
+	}
+
+	void FAutomationScript::AddPictureFunctions()
+	{
 		Scripts.AddFunction(TEXT("Picture"), [this](FScriptCall& Call)
 		{
 			FString Error;
@@ -82,5 +92,6 @@ namespace Host
 				Call.Fail(Error);
 			}
 		});
+		Scripts.AddFunction(TEXT("PictureOf"), [this](FScriptCall& Call) { Require(Call, Driver.TakePictureOf(Call.GetString(1), Call.GetString(2))); });
 	}
 }

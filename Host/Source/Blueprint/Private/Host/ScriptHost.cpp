@@ -15,6 +15,7 @@ namespace Host
 		int CallHostFunction(lua_State* State)
 		{
 			const FScriptFunction& Function = *static_cast<const FScriptFunction*>(lua_touserdata(State, lua_upvalueindex(1)));
+			const FLuaMachine::FPause Pause;
 			FScriptCall Call(State);
 			Function(Call);
 			return Call.GetNumResults();
@@ -66,6 +67,7 @@ namespace Host
 	{
 		luaL_checktype(State, Index, LUA_TFUNCTION);
 		lua_pushvalue(State, Index);
+		const FLuaMachine::FWatch Watch;
 		lua_call(State, 0, 1);
 		const bool bResult = lua_toboolean(State, -1) != 0;
 		lua_pop(State, 1);
@@ -84,6 +86,12 @@ namespace Host
 		++NumResults;
 	}
 
+	void FScriptCall::Return(int32 Value)
+	{
+		lua_pushinteger(State, Value);
+		++NumResults;
+	}
+
 	void FScriptCall::Return(bool bValue)
 	{
 		lua_pushboolean(State, bValue);
@@ -93,6 +101,12 @@ namespace Host
 	void FScriptCall::Return(const UObject* Value)
 	{
 		PushLuaObject(State, Value);
+		++NumResults;
+	}
+
+	void FScriptCall::Return(const FProperty& Property, const void* Value)
+	{
+		PushLuaValue(State, Property, Value);
 		++NumResults;
 	}
 

@@ -75,6 +75,26 @@ namespace Host
 		lua_rawgeti(State, LUA_REGISTRYINDEX, Key);
 	}
 
+	FLuaMachine::FPause::FPause()
+		: Depth(Get().Watchdog->Suspend())
+	{
+	}
+
+	FLuaMachine::FPause::~FPause()
+	{
+		Get().Watchdog->Resume(Depth);
+	}
+
+	FLuaMachine::FWatch::FWatch()
+	{
+		Get().Watchdog->BeginCall();
+	}
+
+	FLuaMachine::FWatch::~FWatch()
+	{
+		Get().Watchdog->EndCall();
+	}
+
 	FLuaMachine& FLuaMachine::Get()
 	{
 		if (!Machine)

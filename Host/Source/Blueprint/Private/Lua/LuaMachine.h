@@ -37,6 +37,29 @@ namespace Host
 	class FLuaMachine
 	{
 	public:
+		/** While it lives, the running script waits for the program, and what it waits does not count as its time. */
+		class FPause
+		{
+		public:
+			FPause();
+			~FPause();
+			FPause(const FPause&) = delete;
+			FPause& operator=(const FPause&) = delete;
+
+		private:
+			int32 Depth;
+		};
+
+		/** While it lives, a script runs that the program calls by itself; see FLuaWatchdog. */
+		class FWatch
+		{
+		public:
+			FWatch();
+			~FWatch();
+			FWatch(const FWatch&) = delete;
+			FWatch& operator=(const FWatch&) = delete;
+		};
+
 		/** The machine, started when it is first asked for. */
 		static FLuaMachine& Get();
 

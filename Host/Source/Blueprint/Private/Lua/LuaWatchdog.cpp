@@ -71,6 +71,21 @@ namespace Host
 		}
 	}
 
+	int32 FLuaWatchdog::Suspend()
+	{
+		const int32 Suspended = Depth;
+		Depth = 1;
+		EndCall();
+		return Suspended;
+	}
+
+	void FLuaWatchdog::Resume(int32 SuspendedDepth)
+	{
+		check(Depth == 0);
+		BeginCall();
+		Depth = SuspendedDepth;
+	}
+
 	void FLuaWatchdog::Watch()
 	{
 		std::unique_lock Lock(Mutex);

@@ -27,6 +27,11 @@ namespace Host
 		void BeginCall();
 		void EndCall();
 
+		/** The running call waits for the program from now on: its time is over, and calls until Resume have times of their own. */
+		int32 Suspend();
+		/** The call goes on, with its time from the beginning. */
+		void Resume(int32 SuspendedDepth);
+
 		/** Seconds that a call may last; one that lasts longer is ended before it has lasted twice that. */
 		static constexpr double Limit = 2.0;
 

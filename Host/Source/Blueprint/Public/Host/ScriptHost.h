@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 
+class FProperty;
 class UObject;
 struct lua_State;
 
@@ -34,8 +35,11 @@ namespace Host
 
 		void Return(const FString& Value);
 		void Return(double Value);
+		void Return(int32 Value);
 		void Return(bool bValue);
 		void Return(const UObject* Value);
+		/** The value of a property, in the form that graphs have. */
+		void Return(const FProperty& Property, const void* Value);
 
 		/** Ends the call with an error in the script. */
 		[[noreturn]] void Fail(const FString& Message) const;
@@ -50,7 +54,10 @@ namespace Host
 	/** A function that scripts can call. */
 	using FScriptFunction = TFunction<void(FScriptCall&)>;
 
-	/** Runs scripts that are no graphs of widgets, with further functions for them. */
+	/**
+	 * Runs scripts that are no graphs of widgets, with further functions for them. The time that a script may take is that between
+	 * two calls of these: while one of them runs, the script waits.
+	 */
 	class BLUEPRINT_API FScriptHost
 	{
 	public:

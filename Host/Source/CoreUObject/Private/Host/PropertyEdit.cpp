@@ -138,6 +138,18 @@ namespace Host
 		return true;
 	}
 
+	bool FPropertyEdit::FindValue(UObject* Object, const FString& Path, const FProperty*& OutProperty, const void*& OutValue, FString& OutReason)
+	{
+		FPropertyPlace Place;
+		if (!Place.Find(Object, Path, OutReason))
+		{
+			return false;
+		}
+		OutProperty = Place.Last().Property;
+		OutValue = Place.Last().Value;
+		return true;
+	}
+
 	bool FPropertyEdit::GetAsText(UObject* Object, const FString& Path, FString& OutText, FString& OutReason)
 	{
 		FPropertyPlace Place;

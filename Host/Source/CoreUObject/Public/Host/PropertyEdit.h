@@ -31,6 +31,9 @@ namespace Host
 		static bool SetFromJson(
 			UObject* Object, const FString& Path, const FJsonNode& Node, FString& OutReason, EPropertyChangeType::Type ChangeType = EPropertyChangeType::ValueSet);
 
+		/** The property that a path leads to, and its value. */
+		static bool FindValue(UObject* Object, const FString& Path, const FProperty*& OutProperty, const void*& OutValue, FString& OutReason);
+
 		/** Writes a value as text. */
 		static bool GetAsText(UObject* Object, const FString& Path, FString& OutText, FString& OutReason);
 

@@ -5,6 +5,8 @@
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
+#include "HAL/PlatformProcess.h"
+#include "HAL/PlatformTime.h"
 #include "Host/Clock.h"
 #include "Host/ConfigFiles.h"
 #include "Host/ConsoleConfig.h"
@@ -153,6 +155,23 @@ namespace Host
 		GEngine->Tick(static_cast<float>(FClock::DeltaTime()));
 		FSlateApplication::Get().Tick();
 		CollectGarbageIfDue();
+	}
+
+	void FEngineLoop::Step(double Seconds)
+	{
+		if (!Desktop)
+		{
+			RunFrame(Seconds);
+			return;
+		}
+		const double End = FPlatformTime::Seconds() + Seconds;
+		Desktop->PumpEvents(*Input);
+		FClock::FollowRealTime();
+		RunFrame(0.0);
+		if (const double Rest = End - FPlatformTime::Seconds(); Rest > 0.0)
+		{
+			FPlatformProcess::Sleep(static_cast<float>(Rest));
+		}
 	}
 
 	void FEngineLoop::RunUntilIdle(double MaxSeconds)

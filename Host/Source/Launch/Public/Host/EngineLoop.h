@@ -46,6 +46,12 @@ namespace Host
 		/** One frame, with the clock moved by the given seconds. */
 		void RunFrame(double Seconds);
 
+		/**
+		 * One frame for what drives the program from outside. Headless the clock is moved by the given seconds; in a window they
+		 * pass, and what the user does meanwhile counts.
+		 */
+		void Step(double Seconds);
+
 		/** Ends Run() after the current frame. */
 		void RequestExit(int32 ExitCode = 0);
 		bool IsExitRequested() const { return bExitRequested; }

@@ -62,6 +62,15 @@ void UScrollBox::SetOrientation(EOrientation NewOrientation)
 	}
 }
 
+void UScrollBox::SetScrollbarPadding(const FMargin& NewScrollbarPadding)
+{
+	ScrollbarPadding = NewScrollbarPadding;
+	if (MyScrollBox)
+	{
+		MyScrollBox->SetScrollBarPadding(NewScrollbarPadding);
+	}
+}
+
 void UScrollBox::SlateHandleUserScrolled(float CurrentOffset)
 {
 	OnUserScrolled.Broadcast(CurrentOffset);
@@ -79,6 +88,7 @@ void UScrollBox::SynchronizeProperties()
 	if (MyScrollBox)
 	{
 		MyScrollBox->SetOrientation(Orientation.GetValue());
+		MyScrollBox->SetScrollBarPadding(ScrollbarPadding);
 	}
 }
 
@@ -114,6 +124,7 @@ TSharedRef<SWidget> UScrollBox::RebuildWidget()
 {
 	MyScrollBox = SNew(SScrollBox)
 		.Orientation(Orientation.GetValue())
+		.ScrollBarPadding(ScrollbarPadding)
 		.OnUserScrolled(BIND_UOBJECT_DELEGATE(FOnUserScrolled, SlateHandleUserScrolled));
 	for (UPanelSlot* PanelSlot : Slots)
 	{

@@ -25,8 +25,16 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Scroll")
 	TEnumAsByte<EOrientation> Orientation = Orient_Vertical;
 
+	/** Room around the scroll bar, in Slate units. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Scroll")
+	FMargin ScrollbarPadding = FMargin(2.0f);
+
 	UMG_API UScrollBox(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
+	FMargin GetScrollbarPadding() const { return ScrollbarPadding; }
+
+	UFUNCTION(BlueprintCallable, Category = "Scroll")
+	UMG_API void SetScrollbarPadding(const FMargin& NewScrollbarPadding);
 
 	/** How far the content is scrolled, in Slate units. */
 	UFUNCTION(BlueprintCallable, Category = "Widget")
