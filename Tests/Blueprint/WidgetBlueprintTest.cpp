@@ -3,6 +3,7 @@
 #include "Blueprint/UserWidget.h"
 #include "Blueprint/WidgetTree.h"
 #include "Components/Border.h"
+#include "Components/EditableText.h"
 #include "Components/TextBlock.h"
 #include "Engine/Engine.h"
 #include "Engine/GameInstance.h"
@@ -94,6 +95,28 @@ namespace
 		UUserWidget* Widget = Show(Class);
 		Driver.ClickAt(Driver.GetMiddle(*Widget->GetWidgetFromName(TEXT("Push"))));
 		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "clicked");
+	}
+
+	TEST_F(FWidgetBlueprintTest, EditableTextsTellTheFunctionsBoundToThem)
+	{
+		UClass* Class = Load(TEXT("Entries"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "EditableText", "Name": "Entry", "Properties": { "Text": "a", "HintText": "Search", "IsPassword": false, "MinimumDesiredWidth": 100, "ClearKeyboardFocusOnCommit": false,
+				"WidgetStyle": { "ColorAndOpacity": { "SpecifiedColor": "#FF0000" } } } },
+			{ "Class": "TextBlock", "Name": "Label" } ] } })",
+			"function OnInitialized(self)\n"
+			"  self.Entry.OnTextChanged:Add(function(text) self.Label:SetText('changed ' .. text) end)\n"
+			"  self.Entry.OnTextCommitted:Add(function(text, method) self.Label:SetText(method .. ' ' .. self.Entry:GetText()) end)\n"
+			"end");
+		UUserWidget* Widget = Show(Class);
+		const UEditableText* Entry = Cast<UEditableText>(Widget->GetWidgetFromName(TEXT("Entry")));
+		ASSERT_TRUE(Entry);
+		EXPECT_EQ(Entry->GetWidgetStyle().ColorAndOpacity.GetSpecifiedColor(), FLinearColor::Red);
+		Driver.ClickAt(Driver.GetMiddle(*Entry));
+		Driver.PressKey(EKeys::End);
+		Driver.Type(TEXT("b"));
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "changed ab");
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "OnEnter ab");
 	}
 
 	TEST_F(FWidgetBlueprintTest, BlueprintsDeriveFromBlueprints)

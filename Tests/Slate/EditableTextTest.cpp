@@ -1,50 +1,10 @@
-#include "Widgets/Input/SEditableText.h"
+#include "EditableTextTools.h"
 
-#include "ControlTestTools.h"
-#include "HAL/PlatformApplicationMisc.h"
-#include "Host/DrawElement.h"
+#include "Host/SlateLoop.h"
 #include "Widgets/Input/SButton.h"
 #include "Widgets/Input/SEditableTextBox.h"
-#include "Widgets/Layout/SBox.h"
 
-class EditableTextTest : public FControlTest
-{
-protected:
-	SEditableText::FArguments Arguments(const TCHAR* Initial = TEXT(""))
-	{
-		return SEditableText::FArguments()
-			.Text(FText::FromString(Initial))
-			.OnTextChanged(FOnTextChanged::CreateLambda([this](const FText& Text) { Log.Add(TEXT("Changed:") + Text.ToString()); }))
-			.OnTextCommitted(FOnTextCommitted::CreateLambda([this](const FText& Text, ETextCommit::Type Type)
-			{
-				const TCHAR* const Names[] = {TEXT("Default"), TEXT("Enter"), TEXT("MovedFocus"), TEXT("Cleared")};
-				Log.Add(FString(Names[Type]) + TEXT(":") + Text.ToString());
-			}));
-	}
-
-	/** Shows it with the focus, and the caret at the end. */
-	void ShowFocused(const SEditableText::FArguments& InArguments)
-	{
-		ShowText(InArguments);
-		App().SetKeyboardFocus(Text);
-		App().Tick();
-	}
-
-	void ShowText(const SEditableText::FArguments& InArguments)
-	{
-		Text = SArgumentNew(InArguments, SEditableText);
-		Show(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)
-		[
-			SNew(SBox).WidthOverride(200.0f).HeightOverride(30.0f)[Text.ToSharedRef()]
-		]);
-		Log.Reset();
-	}
-
-	std::string Content() const { return ToStd(Text->GetText()); }
-	std::string Selected() const { return ToStd(Text->GetSelectedText()); }
-
-	TSharedPtr<SEditableText> Text;
-};
+using EditableTextTest = FEditableTextTest;
 
 TEST_F(EditableTextTest, TypedCharactersStandAtTheCaret)
 {
@@ -155,9 +115,7 @@ TEST_F(EditableTextTest, ClipboardTakesAndGivesText)
 	Stroke(EKeys::A, true);
 	Stroke(EKeys::X, true);
 	EXPECT_EQ(Content(), "");
-	FString Clipboard;
-	FPlatformApplicationMisc::ClipboardPaste(Clipboard);
-	EXPECT_EQ(Clipboard, TEXT("cdabcd"));
+	EXPECT_EQ(GetClipboard(), TEXT("cdabcd"));
 }
 
 TEST_F(EditableTextTest, PastedLineBreaksBecomeBlanks)
@@ -250,9 +208,7 @@ TEST_F(EditableTextTest, ReadOnlyTextIsSelectedAndCopiedButNotChanged)
 	Stroke(EKeys::A, true);
 	Stroke(EKeys::X, true);
 	EXPECT_EQ(Content(), "abc");
-	FString Clipboard;
-	FPlatformApplicationMisc::ClipboardPaste(Clipboard);
-	EXPECT_EQ(Clipboard, TEXT("abc"));
+	EXPECT_EQ(GetClipboard(), TEXT("abc"));
 }
 
 TEST_F(EditableTextTest, PasswordIsNeitherShownNorCopied)
@@ -261,9 +217,7 @@ TEST_F(EditableTextTest, PasswordIsNeitherShownNorCopied)
 	ShowFocused(Arguments(TEXT("secret")).IsPassword(true));
 	Stroke(EKeys::A, true);
 	Stroke(EKeys::C, true);
-	FString Clipboard;
-	FPlatformApplicationMisc::ClipboardPaste(Clipboard);
-	EXPECT_EQ(Clipboard, TEXT("before"));
+	EXPECT_EQ(GetClipboard(), TEXT("before"));
 	EXPECT_EQ(DumpInside(Window.ToSharedRef()).find("secret"), std::string::npos);
 	EXPECT_EQ(Content(), "secret");
 }
@@ -405,6 +359,172 @@ TEST_F(EditableTextTest, HintIsShownWhileThereIsNoText)
 	Text->SetText(FText::FromString(TEXT("a")));
 	App().Tick();
 	EXPECT_EQ(CountRuns(), 0);
+}
+
+TEST_F(EditableTextTest, UndoTakesBackOneWordAfterTheOther)
+{
+	ShowFocused(Arguments());
+	Type(TEXT("two  rooms"));
+	Stroke(EKeys::Z, true);
+	EXPECT_EQ(Content(), "two  ");
+	Stroke(EKeys::Z, true);
+	EXPECT_EQ(Content(), "");
+}
+
+TEST_F(EditableTextTest, UndoBringsBackCharactersThatWereRemovedOneAfterTheOther)
+{
+	ShowFocused(Arguments(TEXT("abcdef")));
+	Stroke(EKeys::BackSpace);
+	Stroke(EKeys::BackSpace);
+	Stroke(EKeys::Home);
+	Stroke(EKeys::Delete);
+	Stroke(EKeys::Delete);
+	EXPECT_EQ(Content(), "cd");
+	Stroke(EKeys::Z, true);
+	EXPECT_EQ(Content(), "abcd");
+	Stroke(EKeys::Z, true);
+	EXPECT_EQ(Content(), "abcdef");
+}
+
+TEST_F(EditableTextTest, AccentTypedBeforeItsLetterIsOneCharacterWithIt)
+{
+	ShowFocused(Arguments(TEXT("\u0301")));
+	Stroke(EKeys::Home);
+	Type(TEXT("e"));
+	Stroke(EKeys::BackSpace);
+	EXPECT_EQ(Content(), "");
+}
+
+TEST_F(EditableTextTest, PasswordIsOneWord)
+{
+	ShowFocused(Arguments(TEXT("two rooms")).IsPassword(true));
+	Stroke(EKeys::Left, true);
+	Type(TEXT("x"));
+	EXPECT_EQ(Content(), "xtwo rooms");
+	Stroke(EKeys::Delete, true);
+	EXPECT_EQ(Content(), "x");
+}
+
+TEST_F(EditableTextTest, PasswordShowsADotForEachCharacter)
+{
+	ShowFocused(Arguments(TEXT("e\u0301\U0001F3E0z")).IsPassword(true));
+	EXPECT_EQ(GetShown(), TEXT("\u2022\u2022\u2022"));
+	Stroke(EKeys::Left);
+	Stroke(EKeys::BackSpace);
+	EXPECT_EQ(Content(), "e\xCC\x81z");
+	EXPECT_EQ(GetShown(), TEXT("\u2022\u2022"));
+}
+
+TEST_F(EditableTextTest, InsertKeyCopiesAndPastesAndDeleteCuts)
+{
+	ShowFocused(Arguments(TEXT("abc")));
+	Stroke(EKeys::A, true);
+	Stroke(EKeys::Insert, true);
+	Stroke(EKeys::Delete, false, true);
+	EXPECT_EQ(Content(), "");
+	Stroke(EKeys::Insert, false, true);
+	Stroke(EKeys::Insert, false, true);
+	EXPECT_EQ(Content(), "abcabc");
+}
+
+TEST_F(EditableTextTest, ShiftPressSelectsFromTheCaret)
+{
+	ShowFocused(Arguments(TEXT("abcdef")));
+	Move(1.0f, 15.0f);
+	Buttons.Add(EKeys::LeftMouseButton);
+	App().ProcessMouseButtonDownEvent(nullptr, FPointerEvent(0, Position, LastPosition, Buttons, EKeys::LeftMouseButton, 0.0f, Modifiers(false, true)));
+	Release();
+	EXPECT_EQ(Selected(), "abcdef");
+}
+
+TEST_F(EditableTextTest, DoubleClickSelectsWhatItFallsOnAndNotWhatIsBesideIt)
+{
+	ShowFocused(Arguments(TEXT("rooms free")));
+	for (int32 Moves = 0; Moves < 5; ++Moves)
+	{
+		Stroke(EKeys::Left);
+	}
+	const float Border = static_cast<float>(GetCaretX());
+	const auto DoubleClickAt = [this](float X)
+	{
+		Wait(1.0);
+		Move(X, 15.0f);
+		Press();
+		Release();
+		Press();
+		Release();
+	};
+	DoubleClickAt(Border - 1.5f);
+	EXPECT_EQ(Selected(), "rooms");
+	DoubleClickAt(Border + 1.5f);
+	EXPECT_EQ(Selected(), " ");
+}
+
+TEST_F(EditableTextTest, CaretOfReadOnlyTextNeitherShowsNorBlinks)
+{
+	ShowFocused(Arguments(TEXT("abc")).IsReadOnly(true));
+	EXPECT_EQ(GetCaretX(), -1);
+	EXPECT_FALSE(Text->HasActiveTimers());
+	Text->SetIsReadOnly(false);
+	EXPECT_GT(GetCaretX(), 0);
+	EXPECT_TRUE(Text->HasActiveTimers());
+}
+
+TEST_F(EditableTextTest, CaretIsOnePixelWideAndAsHighAsTheLine)
+{
+	ShowFocused(Arguments(TEXT("abc")));
+	const TArray<Host::FPixelRect> Boxes = FindBoxes(Caret);
+	ASSERT_EQ(Boxes.Num(), 1);
+	EXPECT_EQ(Boxes[0].Right - Boxes[0].Left, 1);
+	EXPECT_GT(Boxes[0].Bottom - Boxes[0].Top, 10);
+}
+
+TEST_F(EditableTextTest, CaretAtTheRightEdgeIsSeen)
+{
+	ShowFocused(Arguments(TEXT("abc")).Justification(ETextJustify::Right));
+	EXPECT_EQ(GetCaretX(), 199);
+}
+
+TEST_F(EditableTextTest, ScrolledTextShowsItsBeginningWhenItIsLeft)
+{
+	ShowFocused(Arguments(TEXT("a text that is much longer than two hundred units can show at once")));
+	const auto GetLeft = [this]()
+	{
+		App().Tick();
+		float Left = 0.0f;
+		Window->GetRoot().ForEachElement(Host::FPixelRect::Everything(), [&Left](TConstArrayView<Host::FDrawElement> Elements)
+		{
+			for (const Host::FDrawElement& Element : Elements)
+			{
+				Left = Element.GetRun() ? Element.LocalToPixel.X : Left;
+			}
+		});
+		return Left;
+	};
+	EXPECT_LT(GetLeft(), -100.0f);
+	App().ClearKeyboardFocus();
+	EXPECT_EQ(GetLeft(), 0.0f);
+}
+
+TEST_F(EditableTextTest, OverflowIsShortenedWhileTheTextIsNotEdited)
+{
+	const TCHAR* const Long = TEXT("a text that is much longer than two hundred units can show at once");
+	ShowText(Arguments(Long).OverflowPolicy(ETextOverflowPolicy::Ellipsis));
+	EXPECT_TRUE(GetShown().EndsWith(TEXT("\u2026")));
+	App().SetKeyboardFocus(Text);
+	EXPECT_EQ(GetShown(), Long);
+}
+
+TEST_F(EditableTextTest, InactiveWindowCommitsAndTakesTheEditingUpAgain)
+{
+	ShowFocused(Arguments(TEXT("abc")));
+	Stroke(EKeys::A, true);
+	App().ProcessWindowActivatedEvent(FWindowActivateEvent(FWindowActivateEvent::EA_Deactivate, Window.ToSharedRef()));
+	EXPECT_LOG("Default:abc");
+	EXPECT_FALSE(Text->HasActiveTimers());
+	App().ProcessWindowActivatedEvent(FWindowActivateEvent(FWindowActivateEvent::EA_Activate, Window.ToSharedRef()));
+	EXPECT_TRUE(Text->HasKeyboardFocus());
+	EXPECT_EQ(Selected(), "abc");
 }
 
 class EditableTextBoxTest : public FControlTest

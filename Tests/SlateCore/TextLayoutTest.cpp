@@ -335,6 +335,39 @@ TEST_F(TextLayoutTest, CaretsOfHebrewFallFromRightToLeft)
 	EXPECT_LT(Layout.GetCaret(3, 200.0f).X, Layout.GetCaret(2, 200.0f).X);
 }
 
+TEST_F(TextLayoutTest, ACaretWhereDirectionsMeetStandsAtEitherNeighbour)
+{
+	Set(TEXT("ab\u05D0\u05D1"));
+	const float BehindLatin = GetWidth(TEXT("ab"));
+	EXPECT_NEAR(Layout.GetCaret(2, 200.0f, true).X, BehindLatin, 0.05f);
+	EXPECT_NEAR(Layout.GetCaret(2, 200.0f, false).X, Layout.GetSize().X, 1.0f);
+	EXPECT_NEAR(Layout.GetCaret(4, 200.0f, true).X, BehindLatin, 0.05f);
+}
+
+TEST_F(TextLayoutTest, PlacesBesideEachOtherCrossTheLineOnTheScreen)
+{
+	Set(TEXT("ab\u05D0\u05D1c"));
+	const TArray<int32> Indices = {0, 1, 2, 3, 2, 5};
+	FTextPlace Place;
+	float Last = -1.0f;
+	for (const int32 Index : Indices)
+	{
+		EXPECT_EQ(Place.Index, Index);
+		EXPECT_GT(Layout.GetCaret(Place.Index, 200.0f, Place.bAfter).X, Last);
+		Last = Layout.GetCaret(Place.Index, 200.0f, Place.bAfter).X;
+		Place = Layout.FindPlaceBeside(Place, true);
+	}
+	EXPECT_EQ(Place.Index, 5);
+}
+
+TEST_F(TextLayoutTest, APointFindsTheCharacterThatItFallsOn)
+{
+	Set(TEXT("ab"));
+	const float Middle = Layout.GetCaret(1, 200.0f).X;
+	EXPECT_TRUE(Layout.FindPlaceAt(FVector2f(Middle - 1.0f, 1.0f), 200.0f).bAfter);
+	EXPECT_FALSE(Layout.FindPlaceAt(FVector2f(Middle + 1.0f, 1.0f), 200.0f).bAfter);
+}
+
 TEST_F(TextLayoutTest, AMarkHasNoCaretOfItsOwn)
 {
 	Set(TEXT("xe\u0301z"));

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "Host/DesktopApplication.h"
+#include "Host/TextInputDevice.h"
 
 using namespace Host;
 
@@ -63,6 +64,8 @@ namespace
 			Window = Desktop->MakeWindow(FDesktopWindowSettings());
 			void* const Library = dlopen("libSDL2-2.0.so.0", RTLD_NOW | RTLD_NOLOAD);
 			Push = reinterpret_cast<decltype(Push)>(dlsym(Library, "SDL_PushEvent"));
+			Allocate = reinterpret_cast<decltype(Allocate)>(dlsym(Library, "SDL_malloc"));
+			IsTextInputActive = reinterpret_cast<decltype(IsTextInputActive)>(dlsym(Library, "SDL_IsTextInputActive"));
 			const auto GetId = reinterpret_cast<uint32 (*)(void*)>(dlsym(Library, "SDL_GetWindowID"));
 			WindowId = GetId(Window->GetOSWindowHandle());
 			dlclose(Library);
@@ -117,6 +120,8 @@ namespace
 		TSharedPtr<FGenericWindow> Window;
 		FEventLog Log;
 		int (*Push)(SDL_Event*) = nullptr;
+		void* (*Allocate)(size_t) = nullptr;
+		SDL_bool (*IsTextInputActive)() = nullptr;
 		uint32 WindowId = 0;
 	};
 }
@@ -187,6 +192,31 @@ TEST_F(DesktopEvents, CompositionsAreReported)
 	Event.edit.start = 2;
 
 	EXPECT_EQ(Receive(Event), FString(TEXT("compose ni 2")));
+}
+
+TEST_F(DesktopEvents, LongCompositionsAreReportedWholeWithTheCaretInUnits)
+{
+	const char* const Text = "\xf0\x9f\x98\x80 a text that is longer than an event of the short kind";
+	SDL_Event Event = {};
+	Event.editExt.type = SDL_TEXTEDITING_EXT;
+	Event.editExt.windowID = WindowId;
+	Event.editExt.text = static_cast<char*>(Allocate(std::strlen(Text) + 1));
+	std::strcpy(Event.editExt.text, Text);
+	Event.editExt.start = 1;
+
+	EXPECT_EQ(Receive(Event), FString(TEXT("compose \U0001F600 a text that is longer than an event of the short kind 2")));
+}
+
+TEST_F(DesktopEvents, TextIsEnteredOnlyWhileItIsAskedFor)
+{
+	EXPECT_FALSE(IsTextInputActive());
+	Desktop->GetTextInput().Start();
+	EXPECT_TRUE(IsTextInputActive());
+	Desktop->GetTextInput().SetCaretArea(FIntRect(10, 20, 11, 40));
+	Desktop->GetTextInput().CancelComposition();
+	EXPECT_TRUE(IsTextInputActive());
+	Desktop->GetTextInput().Stop();
+	EXPECT_FALSE(IsTextInputActive());
 }
 
 TEST_F(DesktopEvents, WindowEventsFindTheirWindow)

@@ -4,6 +4,7 @@
 
 #include "Framework/Application/SlateApplication.h"
 #include "Host/RendererChoice.h"
+#include "Widgets/Input/SEditableText.h"
 #include "Widgets/SCompoundWidget.h"
 #include "Widgets/SWindow.h"
 
@@ -136,6 +137,19 @@ TEST_F(SlateEventForwarder, KeysReachTheFocusedWidget)
 	Forwarder.OnKeyUp(FKeyEvent(EKeys::G, FModifierKeysState(), 0, false, 'g', 'g'));
 
 	EXPECT_EQ(Content->Text, FString(TEXT("G char")));
+}
+
+TEST_F(SlateEventForwarder, CompositionReachesTheTextThatIsEdited)
+{
+	const TSharedRef<SEditableText> Text = SNew(SEditableText);
+	Window->SetContent(Text);
+	FSlateApplication::Get().Tick();
+	const double Width = Text->GetDesiredSize().X;
+	FSlateApplication::Get().SetKeyboardFocus(Text);
+	Forwarder.OnComposition(TEXT("nihao"), 5);
+	FSlateApplication::Get().Tick();
+	EXPECT_GT(Text->GetDesiredSize().X, Width);
+	EXPECT_TRUE(Text->GetText().IsEmpty());
 }
 
 TEST_F(SlateEventForwarder, WindowTakesOverItsSizeAndScale)

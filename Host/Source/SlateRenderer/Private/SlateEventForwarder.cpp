@@ -1,6 +1,7 @@
 #include "Host/SlateEventForwarder.h"
 
 #include "Framework/Application/SlateApplication.h"
+#include "Host/SlateLoop.h"
 #include "Widgets/SWindow.h"
 
 namespace Host
@@ -68,9 +69,9 @@ namespace Host
 		GetSlate().ProcessKeyCharEvent(Event);
 	}
 
-	void FSlateEventForwarder::OnComposition(const FString&, int32)
+	void FSlateEventForwarder::OnComposition(const FString& Text, int32 CaretPosition)
 	{
-		// The input method shows its own window; the finished text comes as characters.
+		FSlateLoop::ProcessComposition(Text, CaretPosition);
 	}
 
 	void FSlateEventForwarder::OnSizeChanged(const TSharedRef<FGenericWindow>& Window, FIntPoint Size)

@@ -54,9 +54,9 @@ namespace Host
 		FSlateApplication::Get().ProcessKeyCharEvent(Event);
 	}
 
-	void FDesktopInput::OnComposition(const FString&, int32)
+	void FDesktopInput::OnComposition(const FString& Text, int32 CaretPosition)
 	{
-		// What is being composed stands in the input method's own window; its result arrives as characters.
+		FSlateLoop::ProcessComposition(Text, CaretPosition);
 	}
 
 	void FDesktopInput::OnSizeChanged(const TSharedRef<FGenericWindow>& Window, FIntPoint Size)

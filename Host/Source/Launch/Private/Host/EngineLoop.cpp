@@ -121,6 +121,7 @@ namespace Host
 				Window->SetCachedSize(FVector2D(Width, Height));
 			}
 			FSlateApplication::Get().SetPlatformCursor(Desktop->GetCursor());
+			FSlateLoop::SetTextInputDevice(&Desktop->GetTextInput());
 		}
 		Window->SetDPIScaleFactor(Settings.Scale > 0.0f ? Settings.Scale : Scale);
 		FSlateApplication::Get().AddWindow(Window.ToSharedRef());

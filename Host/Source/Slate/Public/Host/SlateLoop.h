@@ -6,6 +6,7 @@ class SWindow;
 
 namespace Host
 {
+	class FTextInputDevice;
 	class FWindowSurface;
 
 	/** What the loop of the program, and what drives it from outside, need of the application. */
@@ -23,5 +24,16 @@ namespace Host
 
 		/** The mouse left the windows: nothing is hovered. */
 		static void MouseLeft();
+
+		/** What enters text on this system; null for none. It must outlive the application, or be taken back. */
+		static void SetTextInputDevice(FTextInputDevice* Device);
+
+		/**
+		 * An input method is composing text; its result comes as characters.
+		 * @param Text	empty when it ends
+		 * @param CaretPosition	UTF-16 units from the start of the text
+		 * @return false when no text is edited
+		 */
+		static bool ProcessComposition(const FString& Text, int32 CaretPosition);
 	};
 }

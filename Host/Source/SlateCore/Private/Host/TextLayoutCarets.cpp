@@ -42,6 +42,39 @@ namespace Host
 			const float Share = GetShareBefore(Text, Box, Position);
 			return Box.bRightToLeft ? Box.Right - Share : Box.Left + Share;
 		}
+
+		/** A visible character, and whether it reads to the left. */
+		struct FCharacterCell
+		{
+			int32 Begin = 0;
+			int32 End = 0;
+			bool bRightToLeft = false;
+		};
+
+		/** The visible characters of clusters from left to right. */
+		void FindCells(FStringView Text, TConstArrayView<FClusterBox> Boxes, TArray<FCharacterCell>& OutCells)
+		{
+			for (const FClusterBox& Box : Boxes)
+			{
+				const int32 First = OutCells.Num();
+				for (int32 Position = Box.Begin; Position < Box.End;)
+				{
+					const int32 Next = FMath::Min(FTextBoundaries::NextCharacter(Text, Position), Box.End);
+					OutCells.Insert(FCharacterCell{ Position, Next, Box.bRightToLeft }, Box.bRightToLeft ? First : OutCells.Num());
+					Position = Next;
+				}
+			}
+		}
+
+		/** How many cells are left of a place; INDEX_NONE when it is at none of them. */
+		int32 CountCellsBefore(TConstArrayView<FCharacterCell> Cells, const FTextPlace& Place)
+		{
+			const int32 Behind = Cells.IndexOfByPredicate([&Place](const FCharacterCell& Cell) { return Cell.Begin == Place.Index; });
+			const int32 Before = Cells.IndexOfByPredicate([&Place](const FCharacterCell& Cell) { return Cell.End == Place.Index; });
+			const bool bAtEnd = Before != INDEX_NONE && (Place.bAfter || Behind == INDEX_NONE);
+			const int32 Cell = bAtEnd ? Before : Behind;
+			return Cell == INDEX_NONE ? INDEX_NONE : Cell + (Cells[Cell].bRightToLeft == bAtEnd ? 0 : 1);
+		}
 	}
 
 	void FTextLayout::FindClusters(const FTextLine& Line, TArray<FClusterBox>& OutBoxes)
@@ -51,7 +84,7 @@ namespace Host
 		Builder.FindClusters(Line.Begin - Paragraph.Begin, Line.End - Paragraph.Begin, OutBoxes);
 	}
 
-	int32 FTextLayout::FindLine(int32 Index, bool bAtLineEnd)
+	int32 FTextLayout::FindLine(int32 Index, bool bAfter)
 	{
 		Update();
 		int32 Low = 0;
@@ -69,10 +102,21 @@ namespace Host
 			}
 		}
 		const bool bWrappedHere = Low > 0 && Lines[Low].Begin == Index && Lines[Low - 1].End == Index && Lines[Low - 1].Paragraph == Lines[Low].Paragraph;
-		return bAtLineEnd && bWrappedHere ? Low - 1 : Low;
+		return bAfter && bWrappedHere ? Low - 1 : Low;
+	}
+
+	bool FTextLayout::IsRightToLeft(int32 Index)
+	{
+		const int32 Line = FindLine(Index);
+		return Paragraphs[Lines[Line].Paragraph].Shaped->IsRightToLeft();
 	}
 
 	int32 FTextLayout::FindIndexAt(FVector2f Point, float AreaWidth)
+	{
+		return FindPlaceAt(Point, AreaWidth).Index;
+	}
+
+	FTextPlace FTextLayout::FindPlaceAt(FVector2f Point, float AreaWidth)
 	{
 		Update();
 		const int32 LineIndex = FMath::Clamp(FMath::FloorToInt32((Point.Y - Style.Margin.Top) / GetLinePitch()), 0, Lines.Num() - 1);
@@ -81,43 +125,65 @@ namespace Host
 		const FStringView ParagraphText = Paragraph.Shaped->GetText();
 		TArray<FClusterBox> Boxes;
 		FindClusters(Line, Boxes);
-		const float X = Point.X - GetRunLeft(Line, AreaWidth);
-		int32 Best = Line.Begin - Paragraph.Begin;
-		float BestDistance = MAX_flt;
-		for (const FClusterBox& Box : Boxes)
+		if (Boxes.IsEmpty())
 		{
-			for (int32 Position = Box.Begin;; Position = FMath::Min(FTextBoundaries::NextCharacter(ParagraphText, Position), Box.End))
+			return FTextPlace{ Line.Begin, false };
+		}
+		const float X = Point.X - GetRunLeft(Line, AreaWidth);
+		const FClusterBox* const Hit = Boxes.FindByPredicate([X](const FClusterBox& Box) { return X < Box.Right; });
+		const FClusterBox& Box = Hit ? *Hit : Boxes.Last();
+		int32 Best = Box.Begin;
+		float BestDistance = MAX_flt;
+		for (int32 Position = Box.Begin;; Position = FMath::Min(FTextBoundaries::NextCharacter(ParagraphText, Position), Box.End))
+		{
+			const float Distance = FMath::Abs(GetCaretX(ParagraphText, Box, Position) - X);
+			if (Distance < BestDistance)
 			{
-				const float Distance = FMath::Abs(GetCaretX(ParagraphText, Box, Position) - X);
-				if (Distance < BestDistance)
-				{
-					Best = Position;
-					BestDistance = Distance;
-				}
-				if (Position >= Box.End)
-				{
-					break;
-				}
+				Best = Position;
+				BestDistance = Distance;
+			}
+			if (Position >= Box.End)
+			{
+				break;
 			}
 		}
-		return Best + Paragraph.Begin;
+		return FTextPlace{ Best + Paragraph.Begin, Best > Box.Begin };
 	}
 
-	FCaretPlace FTextLayout::GetCaret(int32 Index, float AreaWidth, bool bAtLineEnd)
+	FTextPlace FTextLayout::FindPlaceBeside(const FTextPlace& From, bool bToRight)
+	{
+		const FTextLine& Line = Lines[FindLine(From.Index, From.bAfter)];
+		const FParagraph& Paragraph = Paragraphs[Line.Paragraph];
+		TArray<FClusterBox> Boxes;
+		FindClusters(Line, Boxes);
+		TArray<FCharacterCell> Cells;
+		FindCells(Paragraph.Shaped->GetText(), Boxes, Cells);
+		const int32 CellsBefore = CountCellsBefore(Cells, FTextPlace{ From.Index - Paragraph.Begin, From.bAfter });
+		const int32 Crossed = bToRight ? CellsBefore : CellsBefore - 1;
+		if (CellsBefore == INDEX_NONE || !Cells.IsValidIndex(Crossed))
+		{
+			return From;
+		}
+		// Beyond a character that reads the way of the move is its end, beyond another its beginning.
+		const bool bAfter = bToRight != Cells[Crossed].bRightToLeft;
+		return FTextPlace{ Paragraph.Begin + (bAfter ? Cells[Crossed].End : Cells[Crossed].Begin), bAfter };
+	}
+
+	FCaretPlace FTextLayout::GetCaret(int32 Index, float AreaWidth, bool bAfter)
 	{
 		Index = FMath::Clamp(Index, 0, Text.Num());
 		FCaretPlace Caret;
-		Caret.Line = FindLine(Index, bAtLineEnd);
+		Caret.Line = FindLine(Index, bAfter);
 		const FTextLine& Line = Lines[Caret.Line];
 		const FParagraph& Paragraph = Paragraphs[Line.Paragraph];
 		const FStringView ParagraphText = Paragraph.Shaped->GetText();
 		TArray<FClusterBox> Boxes;
 		FindClusters(Line, Boxes);
 		const int32 Position = FMath::Min(Index, Line.End) - Paragraph.Begin;
-		// The character that the caret stands before decides; at the end of the line, the one that it stands after.
-		const FClusterBox* Before = Boxes.FindByPredicate([Position](const FClusterBox& Box) { return Box.Begin <= Position && Position < Box.End; });
-		const FClusterBox* After = Boxes.FindByPredicate([Position](const FClusterBox& Box) { return Box.End == Position; });
-		const FClusterBox* Box = Before ? Before : After;
+		// Unless told otherwise the character behind the caret decides; at the end of the line, the one before it.
+		const FClusterBox* Behind = Boxes.FindByPredicate([Position](const FClusterBox& Box) { return Box.Begin <= Position && Position < Box.End; });
+		const FClusterBox* Before = Boxes.FindByPredicate([Position](const FClusterBox& Box) { return Box.Begin < Position && Position <= Box.End; });
+		const FClusterBox* Box = Before && (bAfter || !Behind) ? Before : Behind;
 		Caret.X = GetRunLeft(Line, AreaWidth) + (Box ? GetCaretX(ParagraphText, *Box, Position) : 0.0f);
 		Caret.Top = Style.Margin.Top + GetLinePitch() * static_cast<float>(Caret.Line);
 		Caret.Height = Style.Font->GetMetrics().LineHeight;

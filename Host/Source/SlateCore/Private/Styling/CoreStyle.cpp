@@ -38,7 +38,8 @@ namespace
 			.SetFont(Font)
 			.SetColorAndOpacity(FSlateColor::UseForeground())
 			.SetBackgroundImageSelected(FSlateColorBrush(Srgb(0, 112, 224)))
-			.SetBackgroundImageComposing(FSlateColorBrush(Srgb(128, 128, 128)))
+			// Besides, what is composed is underlined.
+			.SetBackgroundImageComposing(FSlateNoResource())
 			.SetCaretImage(FSlateColorBrush(FLinearColor::White)));
 	}
 
@@ -56,6 +57,17 @@ namespace
 			.SetDisabledForeground(Srgb(128, 128, 128))
 			.SetNormalPadding(FMargin(12.0f, 1.5f, 12.0f, 1.5f))
 			.SetPressedPadding(FMargin(12.0f, 2.5f, 12.0f, 0.5f)));
+		Set.Set("Menu.Button", FButtonStyle()
+			.SetNormal(FSlateNoResource())
+			.SetHovered(FSlateRoundedBoxBrush(Srgb(0, 112, 224), 3.0f))
+			.SetPressed(FSlateRoundedBoxBrush(Srgb(0, 80, 160), 3.0f))
+			.SetDisabled(FSlateNoResource())
+			.SetNormalForeground(Srgb(192, 192, 192))
+			.SetHoveredForeground(FLinearColor::White)
+			.SetPressedForeground(FLinearColor::White)
+			.SetDisabledForeground(Srgb(128, 128, 128))
+			.SetNormalPadding(FMargin(8.0f, 2.0f))
+			.SetPressedPadding(FMargin(8.0f, 2.0f)));
 		Set.Set("NoBorder", FButtonStyle()
 			.SetNormal(FSlateNoResource())
 			.SetHovered(FSlateNoResource())

@@ -75,6 +75,18 @@ namespace Host
 		float Height = 0.0f;
 	};
 
+	/**
+	 * A place between two characters, and the one of them that it stands at: they are apart where text of both directions meets
+	 * and where a line wraps.
+	 */
+	struct FTextPlace
+	{
+		/** UTF-16 units before it. */
+		int32 Index = 0;
+		/** At the end of the character before it, instead of at the beginning of the one behind it. */
+		bool bAfter = false;
+	};
+
 	/** A part of a line that is selected. */
 	struct FSelectionBox
 	{
@@ -119,17 +131,27 @@ namespace Host
 		/** Index of the caret position nearest to a point. @param AreaWidth the width given to Place */
 		int32 FindIndexAt(FVector2f Point, float AreaWidth);
 
+		/** As FindIndexAt; besides, at which character: the one that the point falls on. */
+		FTextPlace FindPlaceAt(FVector2f Point, float AreaWidth);
+
+		/** The place one character to the left or to the right on the screen. The same one at the end of the line. */
+		FTextPlace FindPlaceBeside(const FTextPlace& From, bool bToRight);
+
 		/**
 		 * Where the caret before a unit of the text stands.
-		 * @param bAtLineEnd	at a place where a line wraps, the end of the upper line instead of the start of the lower
+		 * @param bAfter	at the end of the character before it, instead of at the beginning of the one behind: where a line wraps,
+		 *					at the end of the upper line
 		 */
-		FCaretPlace GetCaret(int32 Index, float AreaWidth, bool bAtLineEnd = false);
+		FCaretPlace GetCaret(int32 Index, float AreaWidth, bool bAfter = false);
 
 		/** Boxes of the selection from one unit to before another, from top to bottom, several on lines of mixed direction. */
 		void GetSelection(int32 Begin, int32 End, float AreaWidth, TArray<FSelectionBox>& OutBoxes);
 
 		/** The line that an index falls on. */
-		int32 FindLine(int32 Index, bool bAtLineEnd = false);
+		int32 FindLine(int32 Index, bool bAfter = false);
+
+		/** Whether the paragraph that an index falls in begins at the right. */
+		bool IsRightToLeft(int32 Index);
 
 		/** Paragraphs shaped since the layout was made. */
 		int32 GetNumShaped() const { return NumShaped; }

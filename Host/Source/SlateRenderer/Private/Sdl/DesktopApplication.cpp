@@ -72,11 +72,15 @@ namespace Host
 		Sdl->SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
 		Sdl->SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
 		Sdl->SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
+		// What is composed may be longer than an event of the old kind holds.
+		Sdl->SetHint(SDL_HINT_IME_SUPPORT_EXTENDED_TEXT, "1");
 		if (Sdl->Init(SDL_INIT_VIDEO) != 0)
 		{
 			OutError = FString::Printf(TEXT("there is no display to open windows on (%s)"), *Sdl->GetErrorText());
 			return nullptr;
 		}
+		// SDL starts with it, as if all windows were texts.
+		Sdl->StopTextInput();
 		// A wake that an earlier desktop did not see went with its queue.
 		bWakePending = false;
 		WakeEventType = Sdl->RegisterEvents(1);
@@ -154,16 +158,8 @@ namespace Host
 		return State->Cursor;
 	}
 
-	void FDesktopApplication::SetTextInput(bool bEnabled, FIntPoint TopLeft, FIntPoint Size)
+	FTextInputDevice& FDesktopApplication::GetTextInput()
 	{
-		const FSdl& Sdl = FSdl::Get();
-		if (!bEnabled)
-		{
-			Sdl.StopTextInput();
-			return;
-		}
-		const SDL_Rect Rect = { TopLeft.X, TopLeft.Y, Size.X, Size.Y };
-		Sdl.SetTextInputRect(&Rect);
-		Sdl.StartTextInput();
+		return State->TextInput;
 	}
 }

@@ -35,6 +35,19 @@ namespace Host
 		return nullptr;
 	}
 
+	FVector2f FDesktopState::GetPixelsPerUnit() const
+	{
+		for (const TWeakPtr<FSdlWindow>& Weak : Windows)
+		{
+			const TSharedPtr<FSdlWindow> Window = Weak.Pin();
+			if (Window.IsValid() && Window->IsForegroundWindow())
+			{
+				return Window->GetPixelsPerUnit();
+			}
+		}
+		return FVector2f(1.0f, 1.0f);
+	}
+
 	FPointerEvent FDesktopState::MakePointerEvent(const TSharedRef<FSdlWindow>& Window, float X, float Y, const FKey& Button, float Wheel)
 	{
 		const FVector2f PixelsPerUnit = Window->GetPixelsPerUnit();
@@ -116,6 +129,19 @@ namespace Host
 		}
 	}
 
+	void FDesktopState::DispatchComposition(const ANSICHAR* Text, int32 CharactersBeforeCaret, FDesktopEventHandler& Handler)
+	{
+		const FString Units(UTF8_TO_TCHAR(Text));
+		int32 Caret = 0;
+		for (int32 Count = 0; Count < CharactersBeforeCaret && Caret < Units.Len(); ++Count)
+		{
+			// Characters beyond 16 bits are two units.
+			const bool bPair = Units[Caret] >= 0xD800 && Units[Caret] < 0xDC00 && Caret + 1 < Units.Len();
+			Caret += bPair ? 2 : 1;
+		}
+		Handler.OnComposition(Units, Caret);
+	}
+
 	void FDesktopState::DispatchWindow(const SDL_WindowEvent& Event, FDesktopEventHandler& Handler)
 	{
 		const TSharedPtr<FSdlWindow> Found = FindWindow(Event.windowID);
@@ -178,7 +204,11 @@ namespace Host
 			DispatchText(Event.text.text, Handler);
 			break;
 		case SDL_TEXTEDITING:
-			Handler.OnComposition(FString(UTF8_TO_TCHAR(Event.edit.text)), Event.edit.start);
+			DispatchComposition(Event.edit.text, Event.edit.start, Handler);
+			break;
+		case SDL_TEXTEDITING_EXT:
+			DispatchComposition(Event.editExt.text ? Event.editExt.text : "", Event.editExt.start, Handler);
+			FSdl::Get().free(Event.editExt.text);
 			break;
 		case SDL_WINDOWEVENT:
 			DispatchWindow(Event.window, Handler);

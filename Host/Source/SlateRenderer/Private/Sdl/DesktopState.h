@@ -4,6 +4,7 @@
 #include "Host/Clipboard.h"
 #include "Host/DesktopEvents.h"
 #include "Sdl/SdlCursor.h"
+#include "Sdl/SdlTextInput.h"
 #include "Sdl/SdlWindow.h"
 
 namespace Host
@@ -22,10 +23,13 @@ namespace Host
 		TArray<TWeakPtr<FSdlWindow>> Windows;
 		TSharedRef<FSdlCursor> Cursor = MakeShared<FSdlCursor>();
 		FSdlClipboard Clipboard;
+		FSdlTextInput TextInput = FSdlTextInput(*this);
 		TSet<FKey> PressedButtons;
 		FVector2f MousePosition = FVector2f(0.0f, 0.0f);
 
 		TSharedPtr<FSdlWindow> FindWindow(uint32 Id);
+		/** Of the window that has the keyboard. */
+		FVector2f GetPixelsPerUnit() const;
 		void Dispatch(const SDL_Event& Event, FDesktopEventHandler& Handler);
 
 	private:
@@ -35,6 +39,7 @@ namespace Host
 		void DispatchWheel(const SDL_MouseWheelEvent& Event, FDesktopEventHandler& Handler);
 		void DispatchKey(const SDL_KeyboardEvent& Event, FDesktopEventHandler& Handler);
 		void DispatchText(const ANSICHAR* Text, FDesktopEventHandler& Handler);
+		void DispatchComposition(const ANSICHAR* Text, int32 CharactersBeforeCaret, FDesktopEventHandler& Handler);
 		void DispatchWindow(const SDL_WindowEvent& Event, FDesktopEventHandler& Handler);
 	};
 }

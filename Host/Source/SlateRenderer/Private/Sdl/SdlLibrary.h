@@ -64,6 +64,7 @@ namespace Host
 	X(StartTextInput) \
 	X(StopTextInput) \
 	X(SetTextInputRect) \
+	X(ClearComposition) \
 	X(GL_SetAttribute) \
 	X(GL_CreateContext) \
 	X(GL_DeleteContext) \

@@ -7,6 +7,7 @@
 namespace Host
 {
 	class FDesktopEventHandler;
+	class FTextInputDevice;
 	struct FDesktopState;
 
 	/** What a new window is to be. */
@@ -56,8 +57,8 @@ namespace Host
 
 		TSharedRef<ICursor> GetCursor() const;
 
-		/** Whether text can be entered, and where (in pixels of the window): input methods put their lists next to it. */
-		void SetTextInput(bool bEnabled, FIntPoint TopLeft = FIntPoint(0, 0), FIntPoint Size = FIntPoint(0, 0));
+		/** What enters text; it is stopped in the beginning. Lives as long as the application. */
+		FTextInputDevice& GetTextInput();
 
 	private:
 		explicit FDesktopApplication(TUniquePtr<FDesktopState> InState);

@@ -1,5 +1,6 @@
 #include "Components/EditableTextBox.h"
 
+#include "Components/EditableTextProperties.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/Input/SEditableTextBox.h"
 
@@ -27,29 +28,57 @@ void UEditableTextBox::SetText(FText InText)
 
 void UEditableTextBox::SetHintText(FText InText)
 {
-	HintText = InText;
-	if (MyEditableTextBlock)
-	{
-		MyEditableTextBlock->SetHintText(InText);
-	}
+	Host::SetEditableTextProperty(HintText, InText, MyEditableTextBlock, &SEditableTextBox::SetHintText);
 }
 
-void UEditableTextBox::SetIsReadOnly(bool bReadOnly)
+void UEditableTextBox::SetIsReadOnly(bool InIsReadOnly)
 {
-	IsReadOnly = bReadOnly;
-	if (MyEditableTextBlock)
-	{
-		MyEditableTextBlock->SetIsReadOnly(bReadOnly);
-	}
+	Host::SetEditableTextProperty(IsReadOnly, InIsReadOnly, MyEditableTextBlock, &SEditableTextBox::SetIsReadOnly);
 }
 
 void UEditableTextBox::SetIsPassword(bool InIsPassword)
 {
-	IsPassword = InIsPassword;
-	if (MyEditableTextBlock)
-	{
-		MyEditableTextBlock->SetIsPassword(InIsPassword);
-	}
+	Host::SetEditableTextProperty(IsPassword, InIsPassword, MyEditableTextBlock, &SEditableTextBox::SetIsPassword);
+}
+
+void UEditableTextBox::SetMinimumDesiredWidth(float InMinimumDesiredWidth)
+{
+	Host::SetEditableTextProperty(MinimumDesiredWidth, InMinimumDesiredWidth, MyEditableTextBlock, &SEditableTextBox::SetMinDesiredWidth);
+}
+
+void UEditableTextBox::SetIsCaretMovedWhenGainFocus(bool InIsCaretMovedWhenGainFocus)
+{
+	Host::SetEditableTextProperty(IsCaretMovedWhenGainFocus, InIsCaretMovedWhenGainFocus, MyEditableTextBlock, &SEditableTextBox::SetIsCaretMovedWhenGainFocus);
+}
+
+void UEditableTextBox::SetSelectAllTextWhenFocused(bool InSelectAllTextWhenFocused)
+{
+	Host::SetEditableTextProperty(SelectAllTextWhenFocused, InSelectAllTextWhenFocused, MyEditableTextBlock, &SEditableTextBox::SetSelectAllTextWhenFocused);
+}
+
+void UEditableTextBox::SetRevertTextOnEscape(bool InRevertTextOnEscape)
+{
+	Host::SetEditableTextProperty(RevertTextOnEscape, InRevertTextOnEscape, MyEditableTextBlock, &SEditableTextBox::SetRevertTextOnEscape);
+}
+
+void UEditableTextBox::SetClearKeyboardFocusOnCommit(bool InClearKeyboardFocusOnCommit)
+{
+	Host::SetEditableTextProperty(ClearKeyboardFocusOnCommit, InClearKeyboardFocusOnCommit, MyEditableTextBlock, &SEditableTextBox::SetClearKeyboardFocusOnCommit);
+}
+
+void UEditableTextBox::SetSelectAllTextOnCommit(bool InSelectAllTextOnCommit)
+{
+	Host::SetEditableTextProperty(SelectAllTextOnCommit, InSelectAllTextOnCommit, MyEditableTextBlock, &SEditableTextBox::SetSelectAllTextOnCommit);
+}
+
+void UEditableTextBox::SetJustification(ETextJustify::Type InJustification)
+{
+	Host::SetEditableTextProperty(Justification, InJustification, MyEditableTextBlock, &SEditableTextBox::SetJustification);
+}
+
+void UEditableTextBox::SetTextOverflowPolicy(ETextOverflowPolicy InOverflowPolicy)
+{
+	Host::SetEditableTextProperty(OverflowPolicy, InOverflowPolicy, MyEditableTextBlock, &SEditableTextBox::SetOverflowPolicy);
 }
 
 void UEditableTextBox::SetWidgetStyle(const FEditableTextBoxStyle& InStyle)
@@ -69,11 +98,7 @@ void UEditableTextBox::SynchronizeProperties()
 		return;
 	}
 	MyEditableTextBlock->SetStyle(&WidgetStyle);
-	MyEditableTextBlock->SetText(Text);
-	MyEditableTextBlock->SetHintText(HintText);
-	MyEditableTextBlock->SetIsReadOnly(IsReadOnly);
-	MyEditableTextBlock->SetIsPassword(IsPassword);
-	MyEditableTextBlock->SetMinDesiredWidth(MinimumDesiredWidth);
+	Host::PushEditableTextProperties(*this, Text, *MyEditableTextBlock);
 }
 
 void UEditableTextBox::ReleaseSlateResources(bool bReleaseChildren)
@@ -93,6 +118,7 @@ TSharedRef<SWidget> UEditableTextBox::RebuildWidget()
 {
 	MyEditableTextBlock = SNew(SEditableTextBox)
 		.Style(&WidgetStyle)
+		.Text(Text)
 		.OnTextChanged(BIND_UOBJECT_DELEGATE(FOnTextChanged, HandleOnTextChanged))
 		.OnTextCommitted(BIND_UOBJECT_DELEGATE(FOnTextCommitted, HandleOnTextCommitted));
 	return MyEditableTextBlock.ToSharedRef();

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Components/Widget.h"
+#include "Framework/Text/TextLayout.h"
 #include "Styling/SlateTypes.h"
 #include "Types/SlateEnums.h"
 #include "EditableTextBox.generated.h"
@@ -42,12 +43,45 @@ public:
 	/** Sets the text shown while the box is empty. */
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	UMG_API void SetHintText(FText InText);
+	const FText& GetHintText() const { return HintText; }
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
-	UMG_API void SetIsReadOnly(bool bReadOnly);
+	UMG_API void SetIsReadOnly(bool InIsReadOnly);
+	bool GetIsReadOnly() const { return IsReadOnly; }
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
 	UMG_API void SetIsPassword(bool InIsPassword);
+	bool GetIsPassword() const { return IsPassword; }
+
+	UMG_API void SetMinimumDesiredWidth(float InMinimumDesiredWidth);
+	float GetMinimumDesiredWidth() const { return MinimumDesiredWidth; }
+
+	UMG_API void SetIsCaretMovedWhenGainFocus(bool InIsCaretMovedWhenGainFocus);
+	bool GetIsCaretMovedWhenGainFocus() const { return IsCaretMovedWhenGainFocus; }
+
+	UMG_API void SetSelectAllTextWhenFocused(bool InSelectAllTextWhenFocused);
+	bool GetSelectAllTextWhenFocused() const { return SelectAllTextWhenFocused; }
+
+	UMG_API void SetRevertTextOnEscape(bool InRevertTextOnEscape);
+	bool GetRevertTextOnEscape() const { return RevertTextOnEscape; }
+
+	UMG_API void SetClearKeyboardFocusOnCommit(bool InClearKeyboardFocusOnCommit);
+	bool GetClearKeyboardFocusOnCommit() const { return ClearKeyboardFocusOnCommit; }
+
+	UMG_API void SetSelectAllTextOnCommit(bool InSelectAllTextOnCommit);
+	bool GetSelectAllTextOnCommit() const { return SelectAllTextOnCommit; }
+
+	bool GetAllowContextMenu() const { return AllowContextMenu; }
+
+	/** Sets where the text lies from left to right. */
+	UFUNCTION(BlueprintCallable, Category = "Appearance")
+	UMG_API void SetJustification(ETextJustify::Type InJustification);
+	ETextJustify::Type GetJustification() const { return Justification; }
+
+	/** Sets what becomes of text that is longer than the room, while it is not edited. */
+	UFUNCTION(BlueprintCallable, Category = "Appearance")
+	UMG_API void SetTextOverflowPolicy(ETextOverflowPolicy InOverflowPolicy);
+	ETextOverflowPolicy GetTextOverflowPolicy() const { return OverflowPolicy; }
 
 	/** Replaces the style. */
 	UFUNCTION(BlueprintCallable, Category = "Appearance")
@@ -87,4 +121,36 @@ private:
 	/** Least width of the text, in Slate units. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance", meta = (AllowPrivateAccess = "true"))
 	float MinimumDesiredWidth = 0.0f;
+
+	/** Whether the caret goes to the end when the text gets the focus other than by the mouse. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Behavior", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	bool IsCaretMovedWhenGainFocus = true;
+
+	/** Whether getting the focus selects the text. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Behavior", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	bool SelectAllTextWhenFocused = false;
+
+	/** Whether escape brings back the text from before the editing. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Behavior", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	bool RevertTextOnEscape = false;
+
+	/** Whether enter gives up the focus. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Behavior", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	bool ClearKeyboardFocusOnCommit = true;
+
+	/** Whether enter selects the text. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Behavior", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	bool SelectAllTextOnCommit = false;
+
+	/** Whether the right mouse button opens a menu with which the text is edited. */
+	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Behavior", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	bool AllowContextMenu = true;
+
+	/** Where the text lies from left to right. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Appearance", meta = (AllowPrivateAccess = "true"))
+	TEnumAsByte<ETextJustify::Type> Justification = ETextJustify::Left;
+
+	/** What becomes of text that is longer than the room, while it is not edited. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Clipping", AdvancedDisplay, meta = (AllowPrivateAccess = "true"))
+	ETextOverflowPolicy OverflowPolicy = ETextOverflowPolicy::Clip;
 };

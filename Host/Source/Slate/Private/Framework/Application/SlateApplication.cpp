@@ -5,6 +5,7 @@
 #include "Framework/Application/MemoryCursor.h"
 #include "Framework/Application/MenuStack.h"
 #include "Framework/Application/PointerTracker.h"
+#include "Framework/Application/TextInput.h"
 #include "Framework/Application/ToolTipPresenter.h"
 #include "Framework/Application/WindowSurfaces.h"
 #include "Host/Clock.h"
@@ -18,6 +19,7 @@ DEFINE_LOG_CATEGORY_STATIC(LogSlate, Log, All);
 FSlateApplication::FSlateApplication()
 	: RememberedCursor(MakeShared<Host::FMemoryCursor>()), Cursor(RememberedCursor.ToSharedRef()), Surfaces(MakeUnique<Host::FWindowSurfaces>()), Pointer(MakeUnique<Host::FPointerTracker>(*this))
 	, Focus(MakeUnique<Host::FFocusTracker>(*this)), Menus(MakeUnique<Host::FMenuStack>(*this)), ToolTips(MakeUnique<Host::FToolTipPresenter>())
+	, TextInput(MakeUnique<Host::FTextInput>())
 	, CurrentTime(Host::FClock::Now())
 {
 }
@@ -72,6 +74,7 @@ void FSlateApplication::Tick()
 	DestroyRequestedWindows();
 	Pointer->ValidateCapture();
 	Focus->Validate();
+	TextInput->Validate();
 	Host::FWidgetActivity::BeginFrame(CurrentTime, DeltaTime);
 	ToolTips->Tick();
 	RefreshWindows();
@@ -134,11 +137,14 @@ void FSlateApplication::SetActiveWindow(const TSharedPtr<SWindow>& Window)
 		Windows.Remove(Window.ToSharedRef());
 		Windows.Add(Window.ToSharedRef());
 	}
+	const TSharedPtr<SWidget> Again = WidgetToFocusAgain.Pin();
+	const bool bFocusAgain = Window.IsValid() && Again.IsValid() && !Focus->GetWidget().IsValid() && FindWidgetWindow(Again.ToSharedRef()) == Window;
 	const TSharedPtr<SWidget> WidgetToFocus = Window.IsValid() ? Window->GetWidgetToFocusOnActivate().Pin() : nullptr;
-	if (WidgetToFocus.IsValid())
+	if (WidgetToFocus.IsValid() || bFocusAgain)
 	{
-		SetUserFocus(0, WidgetToFocus, EFocusCause::WindowActivate);
+		SetUserFocus(0, WidgetToFocus.IsValid() ? WidgetToFocus : Again, EFocusCause::WindowActivate);
 	}
+	WidgetToFocusAgain.Reset();
 }
 
 void FSlateApplication::RequestDestroyWindow(TSharedRef<SWindow> WindowToDestroy)
@@ -284,4 +290,16 @@ Host::FWindowSurface* Host::FSlateLoop::FindSurface(const SWindow& Window)
 void Host::FSlateLoop::MouseLeft()
 {
 	FSlateApplication::Get().Pointer->Leave();
+}
+
+void Host::FSlateLoop::SetTextInputDevice(FTextInputDevice* Device)
+{
+	FSlateApplication::Get().TextInput->SetDevice(Device);
+}
+
+bool Host::FSlateLoop::ProcessComposition(const FString& Text, int32 CaretPosition)
+{
+	FSlateApplication& Application = FSlateApplication::Get();
+	Application.RefreshWindows();
+	return Application.TextInput->Compose(Text, FMath::Clamp(CaretPosition, 0, Text.Len()));
 }

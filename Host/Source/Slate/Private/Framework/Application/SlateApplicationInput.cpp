@@ -5,6 +5,7 @@
 #include "Framework/Application/NavigationSearch.h"
 #include "Framework/Application/PointerTracker.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Framework/Application/TextInput.h"
 #include "Framework/Application/ToolTipPresenter.h"
 #include "Framework/Application/WindowSurfaces.h"
 #include "Widgets/SWindow.h"
@@ -72,6 +73,11 @@ bool FSlateApplication::ProcessWindowActivatedEvent(const FWindowActivateEvent& 
 	if (ActiveWindow.HasSameObject(&Window.Get()))
 	{
 		ActiveWindow.Reset();
+	}
+	if (const TSharedPtr<SWidget> Focused = Focus->GetWidget())
+	{
+		WidgetToFocusAgain = Focused;
+		Focus->Clear(EFocusCause::WindowActivate);
 	}
 	return true;
 }

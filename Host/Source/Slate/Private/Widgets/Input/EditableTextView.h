@@ -1,12 +1,14 @@
 #pragma once
 
 #include "Host/TextLayout.h"
+#include "Widgets/Input/ShownText.h"
 
 namespace Host
 {
 	/** How an editable text is laid out, and which part of it is seen. All lengths are pixels. */
 	struct FEditableTextView
 	{
+		FShownText Shown;
 		FTextLayout Layout;
 		/** Pixels a slate unit that it was laid out for; 0 before the first time. */
 		float Scale = 0.0f;

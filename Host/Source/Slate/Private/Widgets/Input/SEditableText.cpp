@@ -22,19 +22,18 @@ namespace
 		Host::RegisterWidgetTextReader("SEditableText", &ReadText);
 		return true;
 	}
-
-	/** Stands for every character of a password. */
-	constexpr TCHAR PasswordDot = 0x2022;
 }
 
 SEditableText::SEditableText()
 	: Model(MakeUnique<Host::FTextEditModel>())
+	, Composition(MakeUnique<Host::FComposition>())
 	, View(MakeUnique<Host::FEditableTextView>())
 	, BoundTextAttribute(*this)
 	, HintTextAttribute(*this)
 	, FontAttribute(*this)
 	, ColorAttribute(*this)
 	, SelectionBrushAttribute(*this, nullptr)
+	, CompositionBrushAttribute(*this, nullptr)
 	, CaretBrushAttribute(*this, nullptr)
 	, IsReadOnlyAttribute(*this, false)
 	, IsPasswordAttribute(*this, false)
@@ -52,6 +51,7 @@ void SEditableText::Construct(const FArguments& InArgs)
 	SetFont(InArgs._Font);
 	SetColorAndOpacity(InArgs._ColorAndOpacity);
 	SelectionBrushAttribute.Assign(*this, InArgs._BackgroundImageSelected);
+	CompositionBrushAttribute.Assign(*this, InArgs._BackgroundImageComposing);
 	CaretBrushAttribute.Assign(*this, InArgs._CaretImage);
 	SetHintText(InArgs._HintText);
 	SetIsReadOnly(InArgs._IsReadOnly);
@@ -61,7 +61,9 @@ void SEditableText::Construct(const FArguments& InArgs)
 	SetRevertTextOnEscape(InArgs._RevertTextOnEscape);
 	SetClearKeyboardFocusOnCommit(InArgs._ClearKeyboardFocusOnCommit);
 	SetSelectAllTextOnCommit(InArgs._SelectAllTextOnCommit);
+	SetAllowContextMenu(InArgs._AllowContextMenu);
 	SetJustification(InArgs._Justification);
+	SetOverflowPolicy(InArgs._OverflowPolicy);
 	SetMinDesiredWidth(InArgs._MinDesiredWidth);
 	SetText(InArgs._Text);
 	// Only now: the text that it is made with is no change.
@@ -78,7 +80,7 @@ void SEditableText::SetText(const TAttribute<FText>& InNewText)
 		BoundTextAttribute.Assign(*this, TAttribute<FText>::CreateLambda([this, InNewText]()
 		{
 			const FText NewText = InNewText.Get();
-			if (!bHasFocus)
+			if (!bEditing)
 			{
 				ReplaceText(NewText);
 			}
@@ -106,6 +108,10 @@ void SEditableText::SetHintText(const TAttribute<FText>& InHintText)
 void SEditableText::SetIsReadOnly(TAttribute<bool> InIsReadOnly)
 {
 	IsReadOnlyAttribute.Assign(*this, InIsReadOnly);
+	if (bHasFocus)
+	{
+		StartBlinking();
+	}
 }
 
 void SEditableText::SetIsPassword(TAttribute<bool> InIsPassword)
@@ -174,6 +180,21 @@ void SEditableText::SetJustification(const TAttribute<ETextJustify::Type>& InJus
 	JustificationAttribute.Assign(*this, InJustification);
 }
 
+void SEditableText::SetAllowContextMenu(const TAttribute<bool>& InAllowContextMenu)
+{
+	AllowContextMenu = InAllowContextMenu;
+}
+
+void SEditableText::SetOverflowPolicy(TOptional<ETextOverflowPolicy> InOverflowPolicy)
+{
+	const ETextOverflowPolicy NewPolicy = InOverflowPolicy.Get(ETextOverflowPolicy::Clip);
+	if (OverflowPolicy != NewPolicy)
+	{
+		OverflowPolicy = NewPolicy;
+		Invalidate(EInvalidateWidgetReason::Paint);
+	}
+}
+
 bool SEditableText::AnyTextSelected() const
 {
 	return Model->HasSelection();
@@ -204,17 +225,11 @@ const FSlateFontInfo& SEditableText::GetFont() const
 	return bFontIsOwn ? FontAttribute.Get() : Style->Font;
 }
 
-FString SEditableText::GetShownText() const
-{
-	// As many dots as units, so that positions are the same in both.
-	return IsTextPassword() ? FString::ChrN(Model->GetText().Len(), PasswordDot) : Model->GetText();
-}
-
 bool SEditableText::ReplaceText(const FText& NewText)
 {
 	// Also what looks the same may be another text to who translates it.
 	Text = NewText;
-	if (!bHasFocus)
+	if (!bEditing)
 	{
 		OriginalText = NewText;
 	}
@@ -246,7 +261,7 @@ void SEditableText::NoteCaretMove()
 
 void SEditableText::Commit(ETextCommit::Type CommitType)
 {
-	Model->EndTyping();
+	Model->EndStep();
 	const FOnTextCommitted Handler = OnTextCommitted;
 	const FText Committed = Text;
 	Handler.ExecuteIfBound(Committed, CommitType);

@@ -3,27 +3,13 @@
 #include "InputCoreTypes.h"
 #include "Widgets/Input/EditableTextView.h"
 #include "Widgets/Input/SEditableText.h"
+#include "Widgets/Input/STextMenu.h"
 #include "Widgets/Input/TextEditModel.h"
+
+using Host::ETextCommand;
 
 namespace
 {
-	/** Seconds for which the caret is shown, and then not. */
-	constexpr float BlinkPeriod = 0.53f;
-
-	ETextCommit::Type ToCommitType(EFocusCause Cause)
-	{
-		switch (Cause)
-		{
-		case EFocusCause::Mouse:
-		case EFocusCause::Navigation:
-			return ETextCommit::OnUserMovedFocus;
-		case EFocusCause::Cleared:
-			return ETextCommit::OnCleared;
-		default:
-			return ETextCommit::Default;
-		}
-	}
-
 	bool IsHighSurrogate(TCHAR Unit)
 	{
 		return Unit >= 0xD800 && Unit < 0xDC00;
@@ -39,51 +25,40 @@ namespace
 	{
 		return Keys.IsControlDown() && !Keys.IsAltDown();
 	}
-}
 
-FReply SEditableText::OnFocusReceived(const FGeometry& MyGeometry, const FFocusEvent& InFocusEvent)
-{
-	const EFocusCause Cause = InFocusEvent.GetCause();
-	bHasFocus = true;
-	bCommittedByEnter = false;
-	OriginalText = Text;
-	const bool bSelectAll = SelectAllTextWhenFocused.Get(false);
-	if (Cause == EFocusCause::Mouse)
+	/** The command that a key stands for. */
+	TOptional<ETextCommand> FindCommand(const FKeyEvent& Event)
 	{
-		// The press has put the caret already; unless it becomes a drag, all is selected in the end.
-		bSelectAllOnMouseUp = bSelectAll;
+		const FKey Key = Event.GetKey();
+		if (Event.IsShiftDown() && (Key == EKeys::Delete || Key == EKeys::Insert))
+		{
+			return Key == EKeys::Delete ? ETextCommand::Cut : ETextCommand::Paste;
+		}
+		if (!IsCommand(Event.GetModifierKeys()))
+		{
+			return TOptional<ETextCommand>();
+		}
+		if (Key == EKeys::Z)
+		{
+			return Event.IsShiftDown() ? ETextCommand::Redo : ETextCommand::Undo;
+		}
+		const TPair<FKey, ETextCommand> Commands[] = {
+			{ EKeys::A, ETextCommand::SelectAll },
+			{ EKeys::C, ETextCommand::Copy },
+			{ EKeys::Insert, ETextCommand::Copy },
+			{ EKeys::V, ETextCommand::Paste },
+			{ EKeys::X, ETextCommand::Cut },
+			{ EKeys::Y, ETextCommand::Redo },
+		};
+		for (const TPair<FKey, ETextCommand>& Command : Commands)
+		{
+			if (Command.Key == Key)
+			{
+				return Command.Value;
+			}
+		}
+		return TOptional<ETextCommand>();
 	}
-	else if (bSelectAll)
-	{
-		Model->SelectAll();
-	}
-	else if (IsCaretMovedWhenGainFocus.Get(true) && Cause != EFocusCause::WindowActivate)
-	{
-		Model->MoveCaret(Model->GetText().Len(), false);
-	}
-	NoteCaretMove();
-	return SLeafWidget::OnFocusReceived(MyGeometry, InFocusEvent);
-}
-
-void SEditableText::OnFocusLost(const FFocusEvent& InFocusEvent)
-{
-	SLeafWidget::OnFocusLost(InFocusEvent);
-	bHasFocus = false;
-	bSelectingByMouse = false;
-	PendingSurrogate = 0;
-	StopBlinking();
-	Invalidate(EInvalidateWidgetReason::Paint);
-	// An inactive window keeps its focus, and the editing goes on when it is active again.
-	if (InFocusEvent.GetCause() == EFocusCause::WindowActivate)
-	{
-		return;
-	}
-	Model->ClearSelection();
-	if (!bCommittedByEnter)
-	{
-		Commit(ToCommitType(InFocusEvent.GetCause()));
-	}
-	bCommittedByEnter = false;
 }
 
 FReply SEditableText::OnKeyChar(const FGeometry&, const FCharacterEvent& InCharacterEvent)
@@ -102,6 +77,8 @@ FReply SEditableText::OnKeyChar(const FGeometry&, const FCharacterEvent& InChara
 		PendingSurrogate = Character;
 		return FReply::Handled();
 	}
+	// It is the first of what was composed, or written instead of it.
+	ShowComposition(FString(), 0);
 	TCHAR Units[2] = {PendingSurrogate, Character};
 	const bool bPair = PendingSurrogate != 0 && IsLowSurrogate(Character);
 	PendingSurrogate = 0;
@@ -127,6 +104,11 @@ FReply SEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& In
 			return Reply;
 		}
 	}
+	if (IsComposing())
+	{
+		// The keys are for the input method, whether or not it lets others see them.
+		return FReply::Handled();
+	}
 	const FKey Key = InKeyEvent.GetKey();
 	if (Key == EKeys::Enter)
 	{
@@ -136,15 +118,13 @@ FReply SEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& In
 	{
 		return HandleEscape();
 	}
-	const FReply CaretReply = HandleCaretKey(InKeyEvent);
-	if (CaretReply.IsEventHandled())
+	for (const auto Handle : { &SEditableText::HandleCommandKey, &SEditableText::HandleRemovingKey, &SEditableText::HandleCaretKey })
 	{
-		return CaretReply;
-	}
-	const FReply CommandReply = HandleCommandKey(InKeyEvent);
-	if (CommandReply.IsEventHandled())
-	{
-		return CommandReply;
+		const FReply Reply = (this->*Handle)(InKeyEvent);
+		if (Reply.IsEventHandled())
+		{
+			return Reply;
+		}
 	}
 	// A key that writes belongs to the text: it must not press or toggle what the text stands in.
 	const bool bWrites = InKeyEvent.GetCharacter() >= ' ' && !InKeyEvent.IsControlDown() && !InKeyEvent.IsAltDown() && !InKeyEvent.IsCommandDown();
@@ -184,51 +164,64 @@ FReply SEditableText::HandleEscape()
 	return FReply::Handled().ClearUserFocus(EFocusCause::Cleared);
 }
 
+FReply SEditableText::HandleCommandKey(const FKeyEvent& InKeyEvent)
+{
+	const TOptional<ETextCommand> Command = FindCommand(InKeyEvent);
+	if (!Command.IsSet())
+	{
+		return FReply::Unhandled();
+	}
+	// What cannot be removed is copied at least.
+	const bool bCopyOnly = Command.GetValue() == ETextCommand::Cut && IsTextReadOnly();
+	Execute(bCopyOnly ? ETextCommand::Copy : Command.GetValue());
+	return FReply::Handled();
+}
+
+FReply SEditableText::HandleRemovingKey(const FKeyEvent& InKeyEvent)
+{
+	const bool bBack = InKeyEvent.GetKey() == EKeys::BackSpace;
+	if ((!bBack && InKeyEvent.GetKey() != EKeys::Delete) || IsTextReadOnly())
+	{
+		return FReply::Unhandled();
+	}
+	const bool bWord = IsCommand(InKeyEvent.GetModifierKeys());
+	const FString& Content = Model->GetText();
+	const int32 Caret = Model->GetCaret();
+	const int32 Character = bBack ? Host::FTextBoundaries::PreviousCharacter(Content, Caret) : Host::FTextBoundaries::NextCharacter(Content, Caret);
+	if (Model->Remove(bWord ? FindWord(!bBack) : Character, bWord ? Host::ETextPiece::Word : Host::ETextPiece::Character))
+	{
+		NoteEdit();
+	}
+	return FReply::Handled();
+}
+
 FReply SEditableText::HandleCaretKey(const FKeyEvent& InKeyEvent)
 {
 	const FKey Key = InKeyEvent.GetKey();
-	const FString& Content = Model->GetText();
-	const int32 Caret = Model->GetCaret();
 	const bool bSelect = InKeyEvent.IsShiftDown();
-	const bool bWords = IsCommand(InKeyEvent.GetModifierKeys());
-	if (Key == EKeys::BackSpace || (Key == EKeys::Delete && !bSelect))
+	const bool bRight = Key == EKeys::Right;
+	Host::FTextPlace Target;
+	if (Key == EKeys::End)
 	{
-		if (IsTextReadOnly())
-		{
-			return FReply::Unhandled();
-		}
-		const bool bBack = Key == EKeys::BackSpace;
-		const int32 Other = bWords ? (bBack ? Host::FTextBoundaries::PreviousWord(Content, Caret) : Host::FTextBoundaries::NextWord(Content, Caret))
-			: (bBack ? Host::FTextBoundaries::PreviousCharacter(Content, Caret) : Host::FTextBoundaries::NextCharacter(Content, Caret));
-		if (Model->Remove(Other))
-		{
-			NoteEdit();
-		}
-		return FReply::Handled();
-	}
-
-	int32 Target = Caret;
-	if (Key == EKeys::Home)
-	{
-		Target = 0;
-	}
-	else if (Key == EKeys::End)
-	{
-		Target = Content.Len();
+		Target.Index = Model->GetText().Len();
 	}
 	else if (Key == EKeys::Left || Key == EKeys::Right)
 	{
-		const bool bRight = Key == EKeys::Right;
-		if (bWords)
+		RefreshView();
+		if (IsCommand(InKeyEvent.GetModifierKeys()))
 		{
-			Target = bRight ? Host::FTextBoundaries::NextWord(Content, Caret) : Host::FTextBoundaries::PreviousWord(Content, Caret);
+			Target.Index = FindWord(bRight != View->Layout.IsRightToLeft(0));
+		}
+		else if (Model->HasSelection() && !bSelect)
+		{
+			Target.Index = FindSelectionEdge(bRight);
 		}
 		else
 		{
-			Target = Model->HasSelection() && !bSelect ? FindSelectionEdge(bRight) : FindCaretBeside(bRight);
+			Target = FindCaretBeside(bRight);
 		}
 	}
-	else
+	else if (Key != EKeys::Home)
 	{
 		return FReply::Unhandled();
 	}
@@ -237,187 +230,108 @@ FReply SEditableText::HandleCaretKey(const FKeyEvent& InKeyEvent)
 	return FReply::Handled();
 }
 
-int32 SEditableText::FindCaretBeside(bool bToRight) const
+int32 SEditableText::FindWord(bool bNext) const
+{
+	const FString& Content = Model->GetText();
+	if (IsTextPassword())
+	{
+		return bNext ? Content.Len() : 0;
+	}
+	return bNext ? Host::FTextBoundaries::NextWord(Content, Model->GetCaret()) : Host::FTextBoundaries::PreviousWord(Content, Model->GetCaret());
+}
+
+Host::FTextPlace SEditableText::FindCaretBeside(bool bToRight) const
 {
 	RefreshView();
-	const FString& Content = Model->GetText();
-	const int32 Caret = Model->GetCaret();
-	const int32 Next = Host::FTextBoundaries::NextCharacter(Content, Caret);
-	const int32 Previous = Host::FTextBoundaries::PreviousCharacter(Content, Caret);
-	const auto GetX = [this](int32 Position) { return View->Layout.GetCaret(Position, View->AreaWidth).X; };
-	const float X = GetX(Caret);
-	const auto IsBeside = [&](int32 Position) { return Position != Caret && (bToRight ? GetX(Position) > X : GetX(Position) < X); };
-	const int32 Likely = bToRight ? Next : Previous;
-	const int32 Other = bToRight ? Previous : Next;
-	if (IsBeside(Likely))
-	{
-		return Likely;
-	}
-	// Text that runs against the others; where both neighbours stand on the other side, the order of the text counts.
-	return IsBeside(Other) ? Other : Likely;
+	const Host::FTextPlace& Caret = Model->GetCaretPlace();
+	const Host::FTextPlace Shown{ View->Shown.ToShown(Caret.Index), Caret.bAfter };
+	const Host::FTextPlace Beside = View->Layout.FindPlaceBeside(Shown, bToRight);
+	return Host::FTextPlace{ View->Shown.FromShown(Beside.Index), Beside.bAfter };
 }
 
-FReply SEditableText::HandleCommandKey(const FKeyEvent& InKeyEvent)
+int32 SEditableText::FindSelectionEdge(bool bRight) const
 {
-	const FKey Key = InKeyEvent.GetKey();
-	const bool bControl = IsCommand(InKeyEvent.GetModifierKeys());
-	const bool bShift = InKeyEvent.IsShiftDown();
+	RefreshView();
+	const int32 Begin = Model->GetSelectionBegin();
+	const int32 End = Model->GetSelectionEnd();
+	const auto GetX = [this](int32 Position) { return View->Layout.GetCaret(View->Shown.ToShown(Position), View->AreaWidth).X; };
+	return (GetX(End) >= GetX(Begin)) == bRight ? End : Begin;
+}
+
+bool SEditableText::CanExecute(ETextCommand Command) const
+{
 	const bool bEditable = !IsTextReadOnly();
-	if (bControl && Key == EKeys::A)
+	const bool bCopyable = Model->HasSelection() && !IsTextPassword();
+	switch (Command)
 	{
-		SelectAllText();
-	}
-	else if ((bControl && Key == EKeys::C) || (bControl && Key == EKeys::Insert))
+	case ETextCommand::Undo:
+		return bEditable && Model->CanUndo();
+	case ETextCommand::Redo:
+		return bEditable && Model->CanRedo();
+	case ETextCommand::Cut:
+		return bEditable && bCopyable;
+	case ETextCommand::Copy:
+		return bCopyable;
+	case ETextCommand::Paste:
 	{
-		CopySelection();
+		FString Pasted;
+		FPlatformApplicationMisc::ClipboardPaste(Pasted);
+		return bEditable && !Pasted.IsEmpty();
 	}
-	else if ((bControl && Key == EKeys::X) || (bShift && Key == EKeys::Delete))
-	{
-		CopySelection();
-		if (bEditable && !IsTextPassword() && Model->HasSelection() && Model->Remove(Model->GetCaret()))
-		{
-			NoteEdit();
-		}
+	case ETextCommand::Delete:
+		return bEditable && Model->HasSelection();
+	case ETextCommand::SelectAll:
+		return !Model->GetText().IsEmpty();
 	}
-	else if ((bControl && Key == EKeys::V) || (bShift && Key == EKeys::Insert))
-	{
-		Paste();
-	}
-	else if (bControl && ((Key == EKeys::Z && bShift) || Key == EKeys::Y))
-	{
-		if (bEditable && Model->Redo())
-		{
-			NoteEdit();
-		}
-	}
-	else if (bControl && Key == EKeys::Z)
-	{
-		if (bEditable && Model->Undo())
-		{
-			NoteEdit();
-		}
-	}
-	else
-	{
-		return FReply::Unhandled();
-	}
-	return FReply::Handled();
+	return false;
 }
 
-void SEditableText::CopySelection() const
+void SEditableText::Execute(ETextCommand Command)
 {
-	if (Model->HasSelection() && !IsTextPassword())
-	{
-		FPlatformApplicationMisc::ClipboardCopy(*Model->GetSelectedText());
-	}
-}
-
-void SEditableText::Paste()
-{
-	if (IsTextReadOnly())
+	if (!CanExecute(Command))
 	{
 		return;
 	}
-	FString Pasted;
-	FPlatformApplicationMisc::ClipboardPaste(Pasted);
-	if (!Pasted.IsEmpty() && Model->Insert(Pasted, false))
+	bool bChanged = false;
+	switch (Command)
+	{
+	case ETextCommand::Undo:
+		bChanged = Model->Undo();
+		break;
+	case ETextCommand::Redo:
+		bChanged = Model->Redo();
+		break;
+	case ETextCommand::Cut:
+		CopySelection();
+		bChanged = Model->RemoveSelection();
+		break;
+	case ETextCommand::Copy:
+		CopySelection();
+		break;
+	case ETextCommand::Paste:
+		bChanged = Paste();
+		break;
+	case ETextCommand::Delete:
+		bChanged = Model->RemoveSelection();
+		break;
+	case ETextCommand::SelectAll:
+		SelectAllText();
+		break;
+	}
+	if (bChanged)
 	{
 		NoteEdit();
 	}
 }
 
-FReply SEditableText::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+void SEditableText::CopySelection() const
 {
-	if (MouseEvent.GetEffectingButton() != EKeys::LeftMouseButton)
-	{
-		return FReply::Unhandled();
-	}
-	bSelectingByMouse = true;
-	Model->MoveCaret(FindPositionAt(MyGeometry, MouseEvent), MouseEvent.IsShiftDown());
-	NoteCaretMove();
-	return FReply::Handled().CaptureMouse(AsShared()).SetUserFocus(AsShared(), EFocusCause::Mouse);
+	FPlatformApplicationMisc::ClipboardCopy(*Model->GetSelectedText());
 }
 
-FReply SEditableText::OnMouseButtonUp(const FGeometry&, const FPointerEvent& MouseEvent)
+bool SEditableText::Paste()
 {
-	if (MouseEvent.GetEffectingButton() != EKeys::LeftMouseButton || !bSelectingByMouse)
-	{
-		return FReply::Unhandled();
-	}
-	bSelectingByMouse = false;
-	if (bSelectAllOnMouseUp && !Model->HasSelection())
-	{
-		SelectAllText();
-	}
-	bSelectAllOnMouseUp = false;
-	return FReply::Handled().ReleaseMouseCapture();
-}
-
-FReply SEditableText::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
-{
-	if (!bSelectingByMouse || !HasMouseCapture())
-	{
-		return FReply::Unhandled();
-	}
-	const int32 Position = FindPositionAt(MyGeometry, MouseEvent);
-	if (Position != Model->GetCaret())
-	{
-		Model->MoveCaret(Position, true);
-		NoteCaretMove();
-	}
-	return FReply::Handled();
-}
-
-FReply SEditableText::OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
-{
-	if (MouseEvent.GetEffectingButton() != EKeys::LeftMouseButton)
-	{
-		return FReply::Unhandled();
-	}
-	if (IsTextPassword())
-	{
-		// Words would tell something about it.
-		SelectAllText();
-	}
-	else
-	{
-		Model->SelectWordAt(FindPositionAt(MyGeometry, MouseEvent));
-		NoteCaretMove();
-	}
-	return FReply::Handled();
-}
-
-void SEditableText::OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent)
-{
-	SLeafWidget::OnMouseCaptureLost(CaptureLostEvent);
-	bSelectingByMouse = false;
-	bSelectAllOnMouseUp = false;
-}
-
-FCursorReply SEditableText::OnCursorQuery(const FGeometry&, const FPointerEvent&) const
-{
-	return FCursorReply::Cursor(EMouseCursor::TextEditBeam);
-}
-
-void SEditableText::StartBlinking()
-{
-	StopBlinking();
-	bCaretShown = true;
-	BlinkTimer = RegisterActiveTimer(BlinkPeriod, FWidgetActiveTimerDelegate::CreateSP(this, &SEditableText::BlinkCaret));
-}
-
-void SEditableText::StopBlinking()
-{
-	if (BlinkTimer.IsValid())
-	{
-		UnRegisterActiveTimer(BlinkTimer.ToSharedRef());
-		BlinkTimer.Reset();
-	}
-}
-
-EActiveTimerReturnType SEditableText::BlinkCaret(double, float)
-{
-	bCaretShown = !bCaretShown;
-	Invalidate(EInvalidateWidgetReason::Paint);
-	return EActiveTimerReturnType::Continue;
+	FString Pasted;
+	FPlatformApplicationMisc::ClipboardPaste(Pasted);
+	return Model->Insert(Pasted, false);
 }

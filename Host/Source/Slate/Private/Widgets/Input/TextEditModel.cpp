@@ -38,14 +38,13 @@ namespace Host
 	{
 		UndoStates.Reset();
 		RedoStates.Reset();
-		bTyping = false;
+		EndStep();
 		if (State.Text.Equals(InText))
 		{
 			return false;
 		}
 		State.Text = InText;
-		State.Caret = ClampToBoundary(State.Caret);
-		State.Anchor = State.Caret;
+		ClearSelection();
 		return true;
 	}
 
@@ -54,24 +53,24 @@ namespace Host
 		return State.Text.Mid(GetSelectionBegin(), GetSelectionEnd() - GetSelectionBegin());
 	}
 
-	void FTextEditModel::MoveCaret(int32 Position, bool bSelect)
+	void FTextEditModel::MoveCaret(const FTextPlace& Place, bool bSelect)
 	{
-		const int32 Caret = ClampToBoundary(Position);
-		Select(bSelect ? State.Anchor : Caret, Caret);
+		State.Caret = FTextPlace{ ClampToBoundary(Place.Index), Place.bAfter };
+		State.Anchor = bSelect ? State.Anchor : State.Caret.Index;
+		EndStep();
 	}
 
 	void FTextEditModel::Select(int32 Anchor, int32 Caret)
 	{
-		State.Anchor = ClampToBoundary(Anchor);
-		State.Caret = ClampToBoundary(Caret);
-		bTyping = false;
+		MoveCaret(Anchor, false);
+		MoveCaret(Caret, true);
 	}
 
-	void FTextEditModel::SelectWordAt(int32 Position)
+	void FTextEditModel::SelectWordAt(const FTextPlace& Place)
 	{
 		int32 Begin = 0;
 		int32 End = 0;
-		FTextBoundaries::FindWord(State.Text, Position, Begin, End);
+		FTextBoundaries::FindWord(State.Text, Place.bAfter ? Place.Index - 1 : Place.Index, Begin, End);
 		Select(Begin, End);
 	}
 
@@ -82,21 +81,26 @@ namespace Host
 		{
 			return false;
 		}
-		BeginEdit(bTyped && !HasSelection());
+		if (HasSelection() || BeginsWord(Line))
+		{
+			EndStep();
+		}
+		BeginEdit(bTyped ? EStep::Typing : EStep::None);
 		Replace(GetSelectionBegin(), GetSelectionEnd(), Line);
-		bTyping = bTyped;
 		return true;
 	}
 
-	bool FTextEditModel::Remove(int32 Position)
+	bool FTextEditModel::Remove(int32 Position, ETextPiece Piece)
 	{
+		const int32 Caret = State.Caret.Index;
 		const int32 Other = HasSelection() ? State.Anchor : ClampToBoundary(Position);
-		if (Other == State.Caret)
+		if (Other == Caret)
 		{
 			return false;
 		}
-		BeginEdit(false);
-		Replace(FMath::Min(Other, State.Caret), FMath::Max(Other, State.Caret), FStringView());
+		const bool bOneOfMany = Piece == ETextPiece::Character && !HasSelection();
+		BeginEdit(!bOneOfMany ? EStep::None : Other < Caret ? EStep::RemovingBefore : EStep::RemovingBehind);
+		Replace(FMath::Min(Other, Caret), FMath::Max(Other, Caret), FStringView());
 		return true;
 	}
 
@@ -121,14 +125,21 @@ namespace Host
 		return Begin == Position ? Position : FTextBoundaries::PreviousCharacter(State.Text, Position);
 	}
 
-	void FTextEditModel::BeginEdit(bool bTyped)
+	bool FTextEditModel::BeginsWord(FStringView Inserted) const
+	{
+		const int32 Begin = GetSelectionBegin();
+		return Begin > 0 && FTextBoundaries::IsBlank(State.Text[Begin - 1]) && Inserted.Len() > 0 && !FTextBoundaries::IsBlank(Inserted[0]);
+	}
+
+	void FTextEditModel::BeginEdit(EStep NewStep)
 	{
 		RedoStates.Reset();
-		if (bTyped && bTyping)
+		const bool bGoesOn = NewStep != EStep::None && NewStep == Step;
+		Step = NewStep;
+		if (bGoesOn)
 		{
 			return;
 		}
-		bTyping = false;
 		if (UndoStates.Num() == MaxUndoStates)
 		{
 			UndoStates.RemoveAt(0);
@@ -140,8 +151,12 @@ namespace Host
 	{
 		State.Text.RemoveAt(Begin, End - Begin);
 		State.Text.InsertAt(Begin, With);
-		State.Caret = Begin + With.Len();
-		State.Anchor = State.Caret;
+		// What is now side by side may be one character: the caret goes behind it.
+		const int32 Written = Begin + With.Len();
+		const int32 Boundary = ClampToBoundary(Written);
+		// Where directions meet, the caret stays with what was written last.
+		State.Caret = FTextPlace{ Boundary == Written ? Written : FTextBoundaries::NextCharacter(State.Text, Boundary), true };
+		State.Anchor = State.Caret.Index;
 	}
 
 	bool FTextEditModel::Restore(TArray<FState>& From, TArray<FState>& To)
@@ -152,7 +167,7 @@ namespace Host
 		}
 		To.Add(State);
 		State = From.Pop();
-		bTyping = false;
+		EndStep();
 		return true;
 	}
 }

@@ -22,6 +22,7 @@ namespace Host
 	class FMenuStack;
 	class FPointerTracker;
 	class FSlateLoop;
+	class FTextInput;
 	class FToolTipPresenter;
 	class FWindowSurfaces;
 }
@@ -183,6 +184,7 @@ private:
 	friend class Host::FFocusTracker;
 	friend class Host::FPointerTracker;
 	friend class Host::FSlateLoop;
+	friend class Host::FTextInput;
 
 	FSlateApplication();
 
@@ -201,6 +203,8 @@ private:
 	TArray<TSharedRef<SWindow>> Windows;
 	TArray<TSharedRef<SWindow>> WindowsToDestroy;
 	TWeakPtr<SWindow> ActiveWindow;
+	/** Had the focus when the last active window ceased to be it, and gets it back. */
+	TWeakPtr<SWidget> WidgetToFocusAgain;
 	TSharedPtr<FSlateRenderer> Renderer;
 	TSharedPtr<Host::FMemoryCursor> RememberedCursor;
 	/** The remembered one while the system has none. */
@@ -210,6 +214,7 @@ private:
 	TUniquePtr<Host::FFocusTracker> Focus;
 	TUniquePtr<Host::FMenuStack> Menus;
 	TUniquePtr<Host::FToolTipPresenter> ToolTips;
+	TUniquePtr<Host::FTextInput> TextInput;
 	FModifierKeysState ModifierKeys;
 	double CurrentTime = 0.0;
 	float DeltaTime = 0.0f;

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Framework/Application/IMenu.h"
 #include "Framework/SlateDelegates.h"
 #include "Framework/Text/TextLayout.h"
+#include "Misc/Optional.h"
+#include "Rendering/DrawElementTypes.h"
 #include "Styling/CoreStyle.h"
 #include "Styling/SlateTypes.h"
 #include "Templates/UniquePtr.h"
@@ -11,16 +14,21 @@
 
 namespace Host
 {
+	struct FCaretPlace;
+	struct FComposition;
 	struct FEditableTextView;
+	struct FTextPlace;
 	class FTextEditModel;
+	enum class ETextCommand : uint8;
 }
 
 /**
  * One line of text that the user can edit.
  *
  * The arrow keys move the caret, with control by words, and with shift select; so do the mouse and a double click.
- * Control with A, C, X, V, Z and Y selects all, copies, cuts, pastes, undoes and redoes. Enter commits the text, and so does
- * leaving it; escape leaves it.
+ * Control with A, C, X, V, Z and Y selects all, copies, cuts, pastes, undoes and redoes; the right button opens a menu of
+ * these. Enter commits the text, and so does leaving it; escape leaves it. What an input method composes is shown,
+ * underlined, in place of the selection, and is no part of the text until it is finished.
  */
 class SLATE_API SEditableText : public SLeafWidget
 {
@@ -36,6 +44,7 @@ public:
 		, _RevertTextOnEscape(false)
 		, _ClearKeyboardFocusOnCommit(true)
 		, _SelectAllTextOnCommit(false)
+		, _AllowContextMenu(true)
 		, _Justification(ETextJustify::Left)
 		, _MinDesiredWidth(0.0f)
 	{
@@ -51,6 +60,7 @@ public:
 		SLATE_ATTRIBUTE(FSlateFontInfo, Font)
 		SLATE_ATTRIBUTE(FSlateColor, ColorAndOpacity)
 		SLATE_ATTRIBUTE(const FSlateBrush*, BackgroundImageSelected)
+		SLATE_ATTRIBUTE(const FSlateBrush*, BackgroundImageComposing)
 		SLATE_ATTRIBUTE(const FSlateBrush*, CaretImage)
 		/** It can be selected and copied, but not changed. */
 		SLATE_ATTRIBUTE(bool, IsReadOnly)
@@ -64,7 +74,11 @@ public:
 		/** Enter gives up the focus. */
 		SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
 		SLATE_ATTRIBUTE(bool, SelectAllTextOnCommit)
+		/** The right mouse button opens a menu. */
+		SLATE_ATTRIBUTE(bool, AllowContextMenu)
 		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+		/** What becomes of text that is wider than the widget, while it is not edited. */
+		SLATE_ARGUMENT(TOptional<ETextOverflowPolicy>, OverflowPolicy)
 		/** In slate units. */
 		SLATE_ATTRIBUTE(float, MinDesiredWidth)
 		/** The text is another one, by typing or by code. */
@@ -101,7 +115,9 @@ public:
 	void SetRevertTextOnEscape(const TAttribute<bool>& InRevertTextOnEscape);
 	void SetClearKeyboardFocusOnCommit(const TAttribute<bool>& InClearKeyboardFocusOnCommit);
 	void SetSelectAllTextOnCommit(const TAttribute<bool>& InSelectAllTextOnCommit);
+	void SetAllowContextMenu(const TAttribute<bool>& InAllowContextMenu);
 	void SetJustification(const TAttribute<ETextJustify::Type>& InJustification);
+	void SetOverflowPolicy(TOptional<ETextOverflowPolicy> InOverflowPolicy);
 	void SetOnTextChanged(const FOnTextChanged& InOnTextChanged) { OnTextChanged = InOnTextChanged; }
 	void SetOnTextCommitted(const FOnTextCommitted& InOnTextCommitted) { OnTextCommitted = InOnTextCommitted; }
 	void SetOnKeyDownHandler(const FOnKeyDown& InOnKeyDownHandler) { OnKeyDownHandler = InOnKeyDownHandler; }
@@ -134,40 +150,74 @@ protected:
 
 private:
 	const FSlateFontInfo& GetFont() const;
-	/** What is seen in place of the text: the text, or dots. */
-	FString GetShownText() const;
 
-	/** Whether a key with control is a command, and what it did. */
+	// Keys.
 	FReply HandleCommandKey(const FKeyEvent& InKeyEvent);
+	FReply HandleRemovingKey(const FKeyEvent& InKeyEvent);
 	FReply HandleCaretKey(const FKeyEvent& InKeyEvent);
 	FReply HandleEnter();
 	FReply HandleEscape();
+	bool CanExecute(Host::ETextCommand Command) const;
+	void Execute(Host::ETextCommand Command);
+	void CopySelection() const;
+	/** True when the text changed. */
+	bool Paste();
+
+	// Places in the text.
+	/** Where the word begins that is next in the text, or the one before. A password is one word. */
+	int32 FindWord(bool bNext) const;
 	/** Where an arrow key moves the caret to: to the side that it shows, whatever the direction of the text there. */
-	int32 FindCaretBeside(bool bToRight) const;
+	Host::FTextPlace FindCaretBeside(bool bToRight) const;
 	/** The end of the selection that is farther on a side. */
 	int32 FindSelectionEdge(bool bRight) const;
-	int32 FindPositionAt(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) const;
+	Host::FTextPlace FindPlaceAt(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) const;
 
-	void CopySelection() const;
-	void Paste();
+	// Changes.
 	/** After an edit: shows it, and tells. */
 	void NoteEdit();
 	/** After the caret moved: shows it, and has it blink from its begin. */
 	void NoteCaretMove();
 	/** Takes over a text that nobody typed. True when it is another one. */
 	bool ReplaceText(const FText& NewText);
+	void EndEditing(EFocusCause Cause);
 	void Commit(ETextCommit::Type CommitType);
+
+	// The menu.
+	void SummonContextMenu(const FVector2f& Position);
+	void OnContextMenuDismissed(TSharedRef<IMenu> Menu);
+
+	// What an input method composes.
+	bool IsComposing() const;
+	void ShowComposition(const FString& InText, int32 InCaret);
+	/** Forgets it, here and where it is composed. */
+	void CancelComposition();
+
+	// The caret.
+	bool CanShowCaret() const;
 	EActiveTimerReturnType BlinkCaret(double InCurrentTime, float InDeltaTime);
 	void StartBlinking();
 	void StopBlinking();
 
+	// Painting.
 	void UpdateView(float Scale) const;
 	/** Brings the view up to the text, at the scale that it was painted in last. */
 	void RefreshView() const;
 	void ScrollToCaret(float ViewWidth) const;
+	/** Where the caret stands: that of what is composed, if something is. */
+	Host::FCaretPlace GetCaret() const;
+	/** Input methods put their lists next to it. */
+	void TellCaretArea(const FGeometry& AllottedGeometry, const Host::FCaretPlace& Caret) const;
+	void PaintBackground(const FGeometry& AllottedGeometry, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, ESlateDrawEffect Effect) const;
+	void PaintText(const FGeometry& AllottedGeometry, FSlateWindowElementList& OutDrawElements, int32 LayerId, ESlateDrawEffect Effect, const FLinearColor& Color) const;
 	void PaintHint(const FGeometry& AllottedGeometry, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FLinearColor& Color) const;
+	void PaintCompositionLine(const FGeometry& AllottedGeometry, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FLinearColor& Color) const;
+	void PaintCaret(const FGeometry& AllottedGeometry, FSlateWindowElementList& OutDrawElements, int32 LayerId, const FWidgetStyle& InWidgetStyle, const FLinearColor& Color) const;
+	/** Paints a box over the part of the text from one shown unit to before another, for each piece of it that stands together. */
+	void PaintRange(const FGeometry& AllottedGeometry, FSlateWindowElementList& OutDrawElements, int32 LayerId, int32 Begin, int32 End, const FSlateBrush& Brush,
+		ESlateDrawEffect Effect, const FLinearColor& Color) const;
 
 	TUniquePtr<Host::FTextEditModel> Model;
+	TUniquePtr<Host::FComposition> Composition;
 	/** How the text is laid out, and which part of it is seen. */
 	TUniquePtr<Host::FEditableTextView> View;
 
@@ -177,6 +227,7 @@ private:
 	TSlateAttribute<FSlateFontInfo, EInvalidateWidgetReason::Layout> FontAttribute;
 	TSlateAttribute<FSlateColor, EInvalidateWidgetReason::Paint> ColorAttribute;
 	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Paint> SelectionBrushAttribute;
+	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Paint> CompositionBrushAttribute;
 	TSlateAttribute<const FSlateBrush*, EInvalidateWidgetReason::Paint> CaretBrushAttribute;
 	TSlateAttribute<bool, EInvalidateWidgetReason::Paint> IsReadOnlyAttribute;
 	TSlateAttribute<bool, EInvalidateWidgetReason::Layout> IsPasswordAttribute;
@@ -187,6 +238,8 @@ private:
 	TAttribute<bool> RevertTextOnEscape;
 	TAttribute<bool> ClearKeyboardFocusOnCommit;
 	TAttribute<bool> SelectAllTextOnCommit;
+	TAttribute<bool> AllowContextMenu;
+	ETextOverflowPolicy OverflowPolicy = ETextOverflowPolicy::Clip;
 	FOnTextChanged OnTextChanged;
 	FOnTextCommitted OnTextCommitted;
 	FOnIsTypedCharValid OnIsTypedCharValid;
@@ -197,13 +250,19 @@ private:
 	/** From before the editing, for escape. */
 	FText OriginalText;
 	TSharedPtr<FActiveTimerHandle> BlinkTimer;
+	/** While it is open, the text is edited still. */
+	TWeakPtr<IMenu> ContextMenu;
 	/** First half of a character beyond 16 bits, until the second comes. */
 	TCHAR PendingSurrogate = 0;
 	bool bFontIsOwn = false;
 	bool bColorIsOwn = false;
 	bool bHasFocus = false;
+	/** From getting the focus to losing it to something else than the menu. */
+	bool bEditing = false;
 	bool bCaretShown = false;
 	bool bSelectingByMouse = false;
+	/** The right button is held on the text. */
+	bool bSummoningMenu = false;
 	bool bSelectAllOnMouseUp = false;
 	/** Enter gave the text already; losing the focus over it is no second commit. */
 	bool bCommittedByEnter = false;

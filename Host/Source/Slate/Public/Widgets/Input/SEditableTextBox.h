@@ -20,6 +20,7 @@ public:
 		, _RevertTextOnEscape(false)
 		, _ClearKeyboardFocusOnCommit(true)
 		, _SelectAllTextOnCommit(false)
+		, _AllowContextMenu(true)
 		, _Justification(ETextJustify::Left)
 		, _MinDesiredWidth(0.0f)
 	{
@@ -37,7 +38,9 @@ public:
 		SLATE_ATTRIBUTE(bool, RevertTextOnEscape)
 		SLATE_ATTRIBUTE(bool, ClearKeyboardFocusOnCommit)
 		SLATE_ATTRIBUTE(bool, SelectAllTextOnCommit)
+		SLATE_ATTRIBUTE(bool, AllowContextMenu)
 		SLATE_ATTRIBUTE(ETextJustify::Type, Justification)
+		SLATE_ARGUMENT(TOptional<ETextOverflowPolicy>, OverflowPolicy)
 		SLATE_ATTRIBUTE(float, MinDesiredWidth)
 		SLATE_EVENT(FOnTextChanged, OnTextChanged)
 		SLATE_EVENT(FOnTextCommitted, OnTextCommitted)
@@ -71,6 +74,8 @@ public:
 	void SetRevertTextOnEscape(const TAttribute<bool>& InValue) { EditableText->SetRevertTextOnEscape(InValue); }
 	void SetClearKeyboardFocusOnCommit(const TAttribute<bool>& InValue) { EditableText->SetClearKeyboardFocusOnCommit(InValue); }
 	void SetSelectAllTextOnCommit(const TAttribute<bool>& InValue) { EditableText->SetSelectAllTextOnCommit(InValue); }
+	void SetAllowContextMenu(const TAttribute<bool>& InAllowContextMenu) { EditableText->SetAllowContextMenu(InAllowContextMenu); }
+	void SetOverflowPolicy(TOptional<ETextOverflowPolicy> InOverflowPolicy) { EditableText->SetOverflowPolicy(InOverflowPolicy); }
 	void SetTextBoxForegroundColor(const TAttribute<FSlateColor>& InForegroundColor);
 	void SetReadOnlyForegroundColor(const TAttribute<FSlateColor>& InReadOnlyForegroundColor);
 	void SetFocusedForegroundColor(const TAttribute<FSlateColor>& InFocusedForegroundColor);
