@@ -34,7 +34,6 @@ namespace
 void FKitTest::SetUp()
 {
 	Host::FEngineTest::SetUp();
-	MoveAway();
 	Recorder.Reset(NewObject<UKitTestRecorder>());
 	StartScreen();
 }
@@ -44,7 +43,6 @@ void FKitTest::TearDown()
 	Screen.Reset();
 	Recorder.Reset();
 	Host::FEngineTest::TearDown();
-	MoveAway();
 }
 
 void FKitTest::StartScreen()
@@ -79,7 +77,6 @@ void FKitTest::ShowInDesigner()
 
 void FKitTest::MoveAway()
 {
-	// Out of the window, so that nothing is hovered, in the tests that follow neither.
 	Driver.MoveTo(FVector2D(-10.0, -10.0));
 }
 
