@@ -101,4 +101,34 @@ namespace
 		EXPECT_EQ(GetTextOf(TEXT("State")), "Nothing is selected.");
 		EXPECT_EQ(GetTextOf(TEXT("Log")), "OnClearSelection\nOnSelectionChange (2, Loft)\nOnSelectionChange (0, Studio)");
 	}
+
+	TEST_F(FGalleryPagesTest, TileGrowsItsIconUnderThePointer)
+	{
+		ShowScreen(TEXT("Tiles"));
+		const UWidget* Icon = Driver.Find(TEXT("Loft/Icon"));
+		Driver.MoveTo(Driver.GetMiddle(*Driver.Find(TEXT("Loft/SelectableButton"))));
+		Driver.Wait(0.3);
+		EXPECT_EQ(Icon->GetRenderTransform().Scale, FVector2D(1.15, 1.15));
+		Driver.MoveTo(FVector2D(1000.0, 60.0));
+		Driver.Wait(0.3);
+		EXPECT_EQ(Icon->GetRenderTransform().Scale, FVector2D(1.0, 1.0));
+	}
+
+	TEST_F(FGalleryPagesTest, FieldsLogTheirEvents)
+	{
+		ShowScreen(TEXT("Fields"));
+		EXPECT_EQ(GetTextOf(TEXT("Log")), "Nothing has happened yet.");
+		Click(TEXT("FullName/Field"));
+		Driver.Type(TEXT("Zoë"));
+		EXPECT_THAT(GetTextOf(TEXT("Log")), StartsWith("Name: OnTextChanged (Zoë)"));
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_THAT(GetTextOf(TEXT("Log")), StartsWith("Name: OnTextCommitted (Zoë, OnEnter)"));
+		Click(TEXT("Secret/Field"));
+		Driver.PressKey(EKeys::End);
+		Driver.Type(TEXT("s"));
+		EXPECT_THAT(GetTextOf(TEXT("Log")), StartsWith("Password: OnTextChanged (•••••••••)"));
+		Click(TEXT("Fixed/Field"));
+		Driver.Type(TEXT("x"));
+		EXPECT_THAT(GetTextOf(TEXT("Log")), testing::Not(HasSubstr("Read only")));
+	}
 }

@@ -73,7 +73,8 @@ namespace
 		FGalleryCase{ TEXT("Shapes"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Shapes"), TEXT("UIStyle_Hx_Dark"), 1 },
 		FGalleryCase{ TEXT("Buttons"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Buttons"), TEXT("UIStyle_Hx_Dark"), 1 },
 		FGalleryCase{ TEXT("Groups"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Groups"), TEXT("UIStyle_Hx_Dark"), 1 },
-		FGalleryCase{ TEXT("Tiles"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Tiles"), TEXT("UIStyle_Hx_Dark"), 1 }),
+		FGalleryCase{ TEXT("Tiles"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Tiles"), TEXT("UIStyle_Hx_Dark"), 1 },
+		FGalleryCase{ TEXT("Fields"), TEXT("UIStyle_Hx_Light"), 1 }, FGalleryCase{ TEXT("Fields"), TEXT("UIStyle_Hx_Dark"), 1 }),
 		[](const testing::TestParamInfo<FGalleryCase>& Info)
 		{
 			return Host::ToStd(FString::Printf(TEXT("%s_%s_%dx"), Info.param.Screen, Info.param.Style, Info.param.Scale));

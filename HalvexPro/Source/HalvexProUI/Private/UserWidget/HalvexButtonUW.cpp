@@ -1,5 +1,7 @@
 #include "UserWidget/HalvexButtonUW.h"
 
+#include "Animation/WidgetAnimation.h"
+
 void UHalvexButtonUW::SelectButton()
 {
 	SelectableButton->SetSelectionState(true, true);

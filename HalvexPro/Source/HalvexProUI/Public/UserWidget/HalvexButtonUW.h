@@ -6,6 +6,7 @@
 #include "HalvexButtonUW.generated.h"
 
 class UHalvexButtonUW;
+class UWidgetAnimation;
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnButtonSelectionChanged, UHalvexButtonUW*, ButtonReference);
 
@@ -19,6 +20,14 @@ public:
 	/** The wrapped button. */
 	UPROPERTY(BlueprintReadOnly, Category = "HalvexButtonUW", meta = (BindWidget))
 	TObjectPtr<UHxButton> SelectableButton;
+
+	/** For the blueprint to play when the pointer comes. */
+	UPROPERTY(Transient, BlueprintReadOnly, Category = "HalvexButtonUW", meta = (BindWidgetAnimOptional))
+	TObjectPtr<UWidgetAnimation> HoverAnimation;
+
+	/** For the blueprint to play when the pointer goes. */
+	UPROPERTY(Transient, BlueprintReadOnly, Category = "HalvexButtonUW", meta = (BindWidgetAnimOptional))
+	TObjectPtr<UWidgetAnimation> UnHoverAnimation;
 
 	/** Events */
 	UPROPERTY(BlueprintAssignable, Category = "HalvexButtonUW")
