@@ -95,6 +95,11 @@ FReply SEditableText::OnKeyChar(const FGeometry&, const FCharacterEvent& InChara
 
 FReply SEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
 {
+	if (IsComposing())
+	{
+		// The keys are for the input method, whether or not it lets others see them.
+		return FReply::Handled();
+	}
 	if (OnKeyDownHandler.IsBound())
 	{
 		const FOnKeyDown Handler = OnKeyDownHandler;
@@ -103,11 +108,6 @@ FReply SEditableText::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& In
 		{
 			return Reply;
 		}
-	}
-	if (IsComposing())
-	{
-		// The keys are for the input method, whether or not it lets others see them.
-		return FReply::Handled();
 	}
 	const FKey Key = InKeyEvent.GetKey();
 	if (Key == EKeys::Enter)
