@@ -10,6 +10,13 @@ namespace
 	class FWidgetTest : public Host::FEngineTest
 	{
 	protected:
+		/** The widgets write into the test's list until they go, so they go first. */
+		virtual void TearDown() override
+		{
+			Host::FEngineTest::TearDown();
+			CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		}
+
 		URecordingWidget* MakeWidget(const TCHAR* Label)
 		{
 			URecordingWidget* Widget = NewObject<URecordingWidget>();

@@ -24,7 +24,7 @@ function OnInitialized(self)
 	end)
 end
 
-function Construct(self)
+function PreConstruct(self)
 	for _, Name in ipairs(Modes) do
 		Describe(self[Name], 0)
 	end
