@@ -2,13 +2,15 @@
 
 #include "Blueprint/UserWidget.h"
 #include "Engine/Engine.h"
+#include "Engine/Font.h"
 #include "Engine/GameInstance.h"
 #include "Engine/World.h"
 #include "HalvexProUISettings.h"
 #include "HalvexUISubsystem.h"
 #include "Host/AutomationScript.h"
-#include "Host/PictureCompare.h"
 #include "Host/DumpWidgetTree.h"
+#include "Host/FontServices.h"
+#include "Host/PictureCompare.h"
 #include "Misc/App.h"
 #include "Misc/Paths.h"
 #include "Style/HalvexUIStyleConfiguration.h"
@@ -104,7 +106,12 @@ bool FViewer::Start()
 		std::fprintf(stderr, "HalvexViewer: %s\n", TCHAR_TO_UTF8(*Error));
 		return false;
 	}
-	return Options.Style.IsEmpty() || ChooseStyle(Options.Style);
+	if (!Options.Style.IsEmpty() && !ChooseStyle(Options.Style))
+	{
+		return false;
+	}
+	UseProjectFont();
+	return true;
 }
 
 bool FViewer::ChooseStyle(const FString& StylePath)
@@ -118,6 +125,15 @@ bool FViewer::ChooseStyle(const FString& StylePath)
 	GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = Style;
 	UHalvexUISubsystem::Get()->RefreshSettingsReferences();
 	return true;
+}
+
+void FViewer::UseProjectFont()
+{
+	const UFont* Font = UHalvexUISubsystem::Get()->GetHalvexFontStyle().Font;
+	if (const FCompositeFont* CompositeFont = Font ? Font->GetCompositeFont() : nullptr)
+	{
+		Host::FFontServices::Get().SetDefaultFont(MakeShared<FCompositeFont>(*CompositeFont));
+	}
 }
 
 int32 FViewer::RunScreen()

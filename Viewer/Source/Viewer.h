@@ -29,6 +29,8 @@ private:
 
 	bool Start();
 	bool ChooseStyle(const FString& StylePath);
+	/** Tool tips, menus and other text that names no font is drawn in the project's. */
+	void UseProjectFont();
 	int32 RunScreen();
 	/** Shows the screen at design time. */
 	bool ShowDesign();

@@ -100,7 +100,7 @@ namespace Host
 					Candidates.Add(Part);
 				}
 			}
-			const FString Nearest = FindNearest(Parsed.Sought, Candidates);
+			const FString Nearest = FindNearest(Parsed.Sought, Candidates, FMath::Max(1, Parsed.Sought.Len() / 2));
 			return FString::Printf(TEXT("there is no widget '%s'"), *Locator) + (Nearest.IsEmpty() ? FString() : FString::Printf(TEXT("; the nearest is '%s'"), *Nearest));
 		}
 

@@ -74,61 +74,12 @@ namespace Host
 			}();
 			return Readers;
 		}
-
-		/** Letters to insert, remove or replace to get from one name to the other, without regard to case; gives up above the limit. */
-		int32 EditDistance(const FString& A, const FString& B, int32 Limit)
-		{
-			if (FMath::Abs(A.Len() - B.Len()) > Limit)
-			{
-				return Limit + 1;
-			}
-			TArray<int32> Row;
-			Row.SetNum(B.Len() + 1);
-			for (int32 Column = 0; Column <= B.Len(); ++Column)
-			{
-				Row[Column] = Column;
-			}
-			for (int32 Line = 1; Line <= A.Len(); ++Line)
-			{
-				int32 Diagonal = Row[0];
-				Row[0] = Line;
-				for (int32 Column = 1; Column <= B.Len(); ++Column)
-				{
-					const bool bSame = FChar::ToLower(A[Line - 1]) == FChar::ToLower(B[Column - 1]);
-					const int32 Replaced = Diagonal + (bSame ? 0 : 1);
-					Diagonal = Row[Column];
-					Row[Column] = FMath::Min(Replaced, FMath::Min(Row[Column], Row[Column - 1]) + 1);
-				}
-			}
-			return Row[B.Len()];
-		}
 	}
 
 	FPropertyJson::FStructReader FindStructReader(const UScriptStruct& Struct)
 	{
 		const FPropertyJson::FStructReader* Reader = GetStructReaders().Find(FName(Struct.GetPathName()));
 		return Reader ? *Reader : nullptr;
-	}
-
-	FString FindSimilarName(const FString& Name, const TArray<FString>& Candidates)
-	{
-		constexpr int32 LongestCompared = 64;
-		int32 Least = FMath::Max(1, Name.Len() / 4) + 1;
-		FString Best;
-		for (const FString& Candidate : Candidates)
-		{
-			if (Name.Len() > LongestCompared || Candidate.Len() > LongestCompared)
-			{
-				continue;
-			}
-			const int32 Distance = EditDistance(Name, Candidate, Least);
-			if (Distance < Least)
-			{
-				Least = Distance;
-				Best = Candidate;
-			}
-		}
-		return Best;
 	}
 
 	int32 FPropertyJson::ReadObject(const FJsonNode& Node, UObject* Object)

@@ -1,6 +1,7 @@
 #include "Host/PropertyJsonReader.h"
 
 #include "Host/LooseValue.h"
+#include "Host/NearestText.h"
 #include "Misc/StringOutputDevice.h"
 
 namespace Host
@@ -33,7 +34,8 @@ namespace Host
 				Names.Add(It->GetName());
 			}
 		}
-		const FString Similar = FindSimilarName(FString(Node.GetKey()), Names);
+		const FString Unknown(Node.GetKey());
+		const FString Similar = FindNearest(Unknown, Names, FMath::Max(1, Unknown.Len() / 4));
 		Fail(Node, FString::Printf(TEXT("%s has no such property%s%s%s"), *Struct.GetName(),
 			Similar.IsEmpty() ? TEXT("") : TEXT("; is '"), *Similar, Similar.IsEmpty() ? TEXT("") : TEXT("' meant?")));
 	}

@@ -78,7 +78,4 @@ namespace Host
 
 	/** The reader added for a structure; null when there is none. */
 	FPropertyJson::FStructReader FindStructReader(const UScriptStruct& Struct);
-
-	/** The name among the candidates that the misspelt one was probably meant to be; empty when none is close. */
-	FString FindSimilarName(const FString& Name, const TArray<FString>& Candidates);
 }

@@ -12,6 +12,7 @@
 #include "Host/ConsoleConfig.h"
 #include "Host/DesktopApplication.h"
 #include "Host/DesktopInput.h"
+#include "Host/Displays.h"
 #include "Host/FontServices.h"
 #include "Host/GameThreadQueue.h"
 #include "Host/Mounts.h"
@@ -129,21 +130,34 @@ namespace Host
 
 	int32 FEngineLoop::Run()
 	{
-		FClock::FollowRealTime();
 		while (!bExitRequested)
 		{
+			const double Start = FPlatformTime::Seconds();
+			// Ahead of the events, which else would happen at the time at which the last wait began.
+			FClock::FollowRealTime();
 			if (Desktop)
 			{
 				Desktop->PumpEvents(*Input);
 			}
-			FClock::FollowRealTime();
 			RunFrame(0.0);
 			if (Desktop && !bExitRequested)
 			{
-				Desktop->WaitForEvents(GetSecondsUntilNextFrame());
+				Desktop->WaitForEvents(GetSecondsToWait(Start));
 			}
 		}
 		return ExitCode;
+	}
+
+	double FEngineLoop::GetSecondsToWait(double FrameStart) const
+	{
+		const double Seconds = GetSecondsUntilNextFrame();
+		if (Seconds < 0.0)
+		{
+			return Seconds;
+		}
+		constexpr int32 UsualRate = 60;
+		const int32 Rate = FDisplays::GetDesktopMode().RefreshRate;
+		return FMath::Max(Seconds, FrameStart + 1.0 / (Rate > 0 ? Rate : UsualRate) - FPlatformTime::Seconds());
 	}
 
 	void FEngineLoop::RunFrame(double Seconds)

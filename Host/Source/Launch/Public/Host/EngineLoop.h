@@ -71,7 +71,10 @@ namespace Host
 	private:
 		bool StartPlatform(FString& OutError);
 		void StartWindow();
+		/** Until something is due; negative when nothing is. */
 		double GetSecondsUntilNextFrame() const;
+		/** As GetSecondsUntilNextFrame, but not before the screen can show another frame than that of the given start. */
+		double GetSecondsToWait(double FrameStart) const;
 		void CollectGarbageIfDue();
 
 		FEngineLoopSettings Settings;
