@@ -32,13 +32,19 @@ namespace
 		UKitTestButtonUW* Member = nullptr;
 	};
 
-	TEST_F(FHalvexButtonUWTest, PropertiesHaveTheirTypesAndCategory)
+	TEST_F(FHalvexButtonUWTest, PropertiesStandInTheirOrderWithTheirTypes)
 	{
 		const UClass* Class = UHalvexButtonUW::StaticClass();
 		EXPECT_EQ(Class->GetSuperClass(), UUserWidget::StaticClass());
+		EXPECT_EQ(ListNames(Class), "SelectableButton HoverAnimation UnHoverAnimation OnButtonPressed OnButtonSelectionChange ButtonID bStartSelected ButtonSelectionMode");
 		EXPECT_EQ(ListOutsideCategory(Class, TEXT("HalvexButtonUW")), "");
 		EXPECT_EQ(GetType(Class, TEXT("SelectableButton")), "UHxButton*");
 		EXPECT_TRUE(HasMeta(Class, TEXT("SelectableButton"), TEXT("BindWidget")));
+		for (const TCHAR* Name : { TEXT("HoverAnimation"), TEXT("UnHoverAnimation") })
+		{
+			EXPECT_EQ(GetType(Class, Name), "UWidgetAnimation*");
+			EXPECT_TRUE(HasMeta(Class, Name, TEXT("BindWidgetAnimOptional")));
+		}
 		EXPECT_EQ(DescribeEvent(Class, TEXT("OnButtonPressed")), "FName ButtonID");
 		EXPECT_EQ(GetMeta(Class, TEXT("OnButtonPressed"), TEXT("ToolTip")), "Events");
 		EXPECT_EQ(DescribeEvent(Class, TEXT("OnButtonSelectionChange")), "UHalvexButtonUW* ButtonReference");

@@ -159,20 +159,22 @@ namespace
 
 	TEST_F(FHxBorderTest, SizeOverrideFixesTheDimensionsAboveZero)
 	{
+		UBorder* Engines = Make<UBorder>();
+		Place(*Engines, 10.0, 10.0);
 		MakeBorder(FVector2D(0.0, 0.0));
 		Border->SizeOverride.SizeOverride = FVector2D(0.0, 120.0);
 		Show();
-		EXPECT_EQ(Border->GetDesiredSize().Y, 120.0);
-		EXPECT_LT(Border->GetDesiredSize().X, 100.0);
-		Border->SizeOverride.SizeOverride = FVector2D(150.0, -1.0);
+		const FVector2D Content = Engines->GetDesiredSize();
+		EXPECT_GT(Content.Y, 0.0);
+		EXPECT_EQ(Border->GetDesiredSize(), FVector2D(Content.X, 120.0));
+		Border->SizeOverride.SizeOverride = FVector2D(150.0, -20.0);
 		Border->UpdateStyle();
 		Settle();
-		EXPECT_EQ(Border->GetDesiredSize().X, 150.0);
-		EXPECT_LT(Border->GetDesiredSize().Y, 100.0);
+		EXPECT_EQ(Border->GetDesiredSize(), FVector2D(150.0, Content.Y));
 		Border->SizeOverride.bUseOverride = false;
 		Border->UpdateStyle();
 		Settle();
-		EXPECT_LT(Border->GetDesiredSize().X, 100.0);
+		EXPECT_EQ(Border->GetDesiredSize(), Content);
 	}
 
 	TEST_F(FHxBorderTest, AspectRatioStaysWhenItIsNoLongerUsed)
