@@ -6,18 +6,32 @@
 
 namespace Host
 {
+	namespace
+	{
+		FString GetPathOf(const FString& Name)
+		{
+			return FString(TEXT(HALVEX_SOURCE_DIR "/Tests/Goldens/")) + Name;
+		}
+	}
+
 	void ExpectGolden(const FString& Name, const FPicture& Picture)
 	{
-		const FString Base = FString(TEXT(HALVEX_SOURCE_DIR "/Tests/Goldens/")) + Name;
 		FString Error;
 		if (std::getenv("HALVEX_ACCEPT_GOLDENS"))
 		{
-			EXPECT_TRUE(SavePicture(Base + TEXT(".png"), Picture, Error)) << ToStd(Error);
+			EXPECT_TRUE(SavePicture(GetPathOf(Name) + TEXT(".png"), Picture, Error)) << ToStd(Error);
 			return;
 		}
+		ExpectNearGolden(Name, Picture, 0);
+	}
+
+	void ExpectNearGolden(const FString& Name, const FPicture& Picture, int32 Tolerance)
+	{
+		const FString Base = GetPathOf(Name);
+		FString Error;
 		FPicture Approved;
 		ASSERT_TRUE(LoadPicture(Base + TEXT(".png"), Approved, Error)) << ToStd(Error);
-		const FPictureDifference Difference = ComparePictures(Approved, Picture);
+		const FPictureDifference Difference = ComparePictures(Approved, Picture, Tolerance);
 		if (!Difference.IsSame())
 		{
 			SavePicture(Base + TEXT(".actual.png"), Picture, Error);

@@ -11,4 +11,7 @@ namespace Host
 	 * look at it before it is committed.
 	 */
 	void ExpectGolden(const FString& Name, const FPicture& Picture);
+
+	/** Compares a picture that was drawn in another way with the approved one: channels may differ by as much as the tolerance, of 255. */
+	void ExpectNearGolden(const FString& Name, const FPicture& Picture, int32 Tolerance);
 }

@@ -25,7 +25,7 @@ namespace
 		Set.Set("Border", new FSlateRoundedBoxBrush(Srgb(36, 36, 36), 4.0f, Srgb(56, 56, 56), 1.0f));
 		Set.Set("Menu.Background", new FSlateRoundedBoxBrush(Srgb(42, 42, 42), 4.0f, Srgb(70, 70, 70), 1.0f));
 		Set.Set("ToolTip.Background", new FSlateRoundedBoxBrush(Srgb(26, 26, 26), 4.0f, Srgb(80, 80, 80), 1.0f));
-		Set.Set("FocusRectangle", new FSlateRoundedBoxBrush(FLinearColor::Transparent, 3.0f, Srgb(38, 187, 255), 1.5f));
+		Set.Set("FocusRectangle", new FSlateRoundedBoxBrush(FLinearColor::Transparent, 6.0f, Srgb(38, 187, 255), 1.5f));
 	}
 
 	void AddTextStyles(FSlateStyleSet& Set)
