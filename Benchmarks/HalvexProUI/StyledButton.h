@@ -26,6 +26,8 @@ public:
 	FStyledButton(UWidgetTree& Tree, EButtonContent Content, int32 Number);
 
 	UWidget& GetWidget() const;
+	UHxButton& GetButton() const { return *Button; }
+	UHxText& GetText() const { return *Text; }
 
 	/** Objects that the button is made of, slots apart. */
 	int32 GetNumWidgets() const { return Icon ? 4 : 2; }

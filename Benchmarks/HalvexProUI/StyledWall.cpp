@@ -88,6 +88,14 @@ void FStyledWall::HoverOver(int32 Index)
 	Mouse = Middle;
 }
 
+void FStyledWall::Click()
+{
+	FSlateApplication& Application = FSlateApplication::Get();
+	const TSet<FKey> Pressed = { EKeys::LeftMouseButton };
+	Application.ProcessMouseButtonDownEvent(nullptr, FPointerEvent(0, Mouse, Mouse, Pressed, EKeys::LeftMouseButton, 0.0f, FModifierKeysState()));
+	Application.ProcessMouseButtonUpEvent(FPointerEvent(0, Mouse, Mouse, TSet<FKey>(), EKeys::LeftMouseButton, 0.0f, FModifierKeysState()));
+}
+
 int32 FStyledWall::GetNumWidgets() const
 {
 	return Buttons.IsEmpty() ? 0 : Buttons.Num() * Buttons[0].GetNumWidgets();

@@ -26,6 +26,8 @@ public:
 
 	/** The mouse comes to the middle of the button. */
 	void HoverOver(int32 Index);
+	/** Presses and releases the left mouse button where the mouse is. */
+	void Click();
 
 	int32 GetNumWidgets() const;
 	const TArray<FStyledButton>& GetButtons() const { return Buttons; }

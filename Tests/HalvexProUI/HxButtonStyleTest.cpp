@@ -451,4 +451,19 @@ namespace
 		Settle();
 		EXPECT_EQ((Host::FSlateCounters::Get() - Before).Painted, 0);
 	}
+
+	TEST_F(FHxButtonStyleTest, RestylingBeforeItIsBuiltIsFatal)
+	{
+		MakeButton(EButtonSelectionMode::EBSM_None);
+		EXPECT_DEATH(Button->UpdateStyle(), "Assertion failed");
+	}
+
+	TEST_F(FHxButtonStyleTest, WithoutAColourItCanBeRestyledBeforeItIsBuilt)
+	{
+		MakeButton(EButtonSelectionMode::EBSM_Toggle);
+		Button->Color.ColorMode = EColorHandlerMode::ECHM_Disable;
+		Button->CornerStyle.UniformCorner = 9.0f;
+		Button->UpdateStyle();
+		EXPECT_EQ(Button->GetStyle().Normal.OutlineSettings.CornerRadii, FVector4(9.0, 9.0, 9.0, 9.0));
+	}
 }
