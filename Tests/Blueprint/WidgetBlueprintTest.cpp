@@ -3,7 +3,10 @@
 #include "Blueprint/UserWidget.h"
 #include "Blueprint/WidgetTree.h"
 #include "Components/Border.h"
+#include "Components/CheckBox.h"
 #include "Components/EditableText.h"
+#include "Components/ProgressBar.h"
+#include "Components/Slider.h"
 #include "Components/TextBlock.h"
 #include "Engine/Engine.h"
 #include "Engine/GameInstance.h"
@@ -117,6 +120,74 @@ namespace
 		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "changed ab");
 		Driver.PressKey(EKeys::Enter);
 		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "OnEnter ab");
+	}
+
+	TEST_F(FWidgetBlueprintTest, CheckBoxesTellTheFunctionsBoundToThem)
+	{
+		UClass* Class = Load(TEXT("Options"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "CheckBox", "Name": "Option", "Properties": { "CheckedState": "Checked", "HorizontalAlignment": "HAlign_Left", "IsFocusable": false,
+				"WidgetStyle": { "Padding": { "Left": 9 } } },
+				"Children": [ { "Class": "TextBlock", "Properties": { "Text": "Option" } } ] },
+			{ "Class": "TextBlock", "Name": "Label" } ] } })",
+			"function OnInitialized(self)\n"
+			"  self.Option.OnCheckStateChanged:Add(function(checked) self.Label:SetText(tostring(checked) .. ' ' .. self.Option:GetCheckedState()) end)\n"
+			"end");
+		UUserWidget* Widget = Show(Class);
+		const UCheckBox* Option = Cast<UCheckBox>(Widget->GetWidgetFromName(TEXT("Option")));
+		ASSERT_TRUE(Option);
+		EXPECT_TRUE(Option->IsChecked());
+		EXPECT_EQ(Option->GetWidgetStyle().Padding.Left, 9.0f);
+		EXPECT_EQ(Option->HorizontalAlignment, HAlign_Left);
+		EXPECT_FALSE(Option->GetIsFocusable());
+		EXPECT_TRUE(Driver.Click(TEXT("Option"))) << Host::ToStd(Driver.GetError());
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "false Unchecked");
+	}
+
+	TEST_F(FWidgetBlueprintTest, SlidersTellTheFunctionsBoundToThem)
+	{
+		UClass* Class = Load(TEXT("Sliders"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "Slider", "Name": "Volume", "Properties": { "MinValue": 0, "MaxValue": 10, "Value": 2, "StepSize": 2, "MouseUsesStep": true, "SliderHandleColor": "#FF0000" } },
+			{ "Class": "TextBlock", "Name": "Label" }, { "Class": "TextBlock", "Name": "Held" } ] } })",
+			"function OnInitialized(self)\n"
+			"  self.Volume.OnValueChanged:Add(function(value) self.Label:SetText(value .. ' ' .. self.Volume:GetNormalizedValue()) end)\n"
+			"  self.Volume.OnMouseCaptureBegin:Add(function() self.Held:SetText('held') end)\n"
+			"  self.Volume.OnMouseCaptureEnd:Add(function() self.Held:SetText('let go') end)\n"
+			"end");
+		UUserWidget* Widget = Show(Class);
+		const USlider* Volume = Cast<USlider>(Widget->GetWidgetFromName(TEXT("Volume")));
+		ASSERT_TRUE(Volume);
+		EXPECT_EQ(Volume->GetValue(), 2.0f);
+		EXPECT_EQ(Volume->GetSliderHandleColor(), FLinearColor::Red);
+		const FVector2D Middle = Driver.GetMiddle(*Volume);
+		Driver.MoveTo(Middle + FVector2D(20.0, 0.0));
+		Driver.Press();
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "6.0 0.60000002384186");
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Held")), "held");
+		Driver.Release();
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Held")), "let go");
+	}
+
+	TEST_F(FWidgetBlueprintTest, ProgressBarsFollowTheGraph)
+	{
+		UClass* Class = Load(TEXT("Progress"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "ProgressBar", "Name": "Bar", "Properties": { "Percent": 0.25, "BarFillType": "BottomToTop", "BarFillStyle": "Scale", "bIsMarquee": true,
+				"BorderPadding": { "X": 1, "Y": 2 }, "FillColorAndOpacity": "#00FF00" } },
+			{ "Class": "Button", "Name": "Step" } ] } })",
+			"function OnInitialized(self)\n"
+			"  self.Step.OnClicked:Add(function() self.Bar:SetIsMarquee(false) self.Bar:SetPercent(0.75) end)\n"
+			"end");
+		UUserWidget* Widget = Show(Class);
+		const UProgressBar* Bar = Cast<UProgressBar>(Widget->GetWidgetFromName(TEXT("Bar")));
+		ASSERT_TRUE(Bar);
+		EXPECT_EQ(Bar->GetPercent(), 0.25f);
+		EXPECT_EQ(Bar->GetBarFillType(), EProgressBarFillType::BottomToTop);
+		EXPECT_EQ(Bar->GetBarFillStyle(), EProgressBarFillStyle::Scale);
+		EXPECT_EQ(Bar->GetBorderPadding(), FVector2D(1.0, 2.0));
+		EXPECT_EQ(Bar->GetFillColorAndOpacity(), FLinearColor::Green);
+		EXPECT_TRUE(Bar->UseMarquee());
+		Driver.SingleClickAt(Driver.GetMiddle(*Widget->GetWidgetFromName(TEXT("Step"))));
+		EXPECT_FALSE(Bar->UseMarquee());
+		EXPECT_EQ(Bar->GetPercent(), 0.75f);
 	}
 
 	TEST_F(FWidgetBlueprintTest, BlueprintsDeriveFromBlueprints)

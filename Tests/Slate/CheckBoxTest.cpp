@@ -136,3 +136,18 @@ TEST_F(CheckBoxTest, EqualStateInvalidatesNothing)
 	Frame();
 	EXPECT_EQ(Work.Painted, 0);
 }
+
+TEST_F(CheckBoxTest, PreciseClickIsCancelledByADrag)
+{
+	ShowBox(Arguments().ClickMethod(EButtonClickMethod::PreciseClick));
+	Move(20.0f, 8.0f);
+	Press();
+	Move(22.0f, 8.0f);
+	Release();
+	EXPECT_LOG("Checked");
+	Press();
+	Move(60.0f, 8.0f);
+	EXPECT_FALSE(Box->IsPressed());
+	Release();
+	EXPECT_LOG("");
+}

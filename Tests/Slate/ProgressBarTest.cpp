@@ -1,11 +1,20 @@
 #include "Widgets/Notifications/SProgressBar.h"
 
+#include "Brushes/SlateRoundedBoxBrush.h"
 #include "ControlTestTools.h"
 #include "Host/DrawElement.h"
 
 class ProgressBarTest : public FLayoutTest
 {
 protected:
+	/** Width in units of the picture over the background, of which only a part may be seen. */
+	float GetDrawnWidth() const
+	{
+		float Width = 0.0f;
+		Root.ForEachElement(Host::FPixelRect::Everything(), [&Width](TConstArrayView<Host::FDrawElement> Elements) { Width = Elements.Last().LocalSize.X; });
+		return Width;
+	}
+
 	/** Bounds in pixels of what is drawn over the background. */
 	Host::FPixelRect GetFillBounds() const
 	{
@@ -40,6 +49,19 @@ TEST_F(ProgressBarTest, FillsFromWhereItIsTold)
 	Bar->SetBarFillType(EProgressBarFillType::FillFromCenter);
 	Frame();
 	EXPECT_EQ(GetFillBounds(), Host::FPixelRect::Make(100, 75, 300, 225));
+}
+
+TEST_F(ProgressBarTest, ScaledFillIsDrawnAsLargeAsTheDonePart)
+{
+	const FProgressBarStyle Style = FProgressBarStyle()
+		.SetBackgroundImage(FSlateColorBrush(FLinearColor::White))
+		.SetFillImage(FSlateRoundedBoxBrush(FLinearColor::Red, 4.0f));
+	const TSharedRef<SProgressBar> Bar = SNew(SProgressBar).Style(&Style).Percent(0.5f).BorderPadding(FVector2D::ZeroVector);
+	Show(Bar);
+	EXPECT_EQ(GetDrawnWidth(), 400.0f) << "a mask cuts it off instead";
+	Bar->SetBarFillStyle(EProgressBarFillStyle::Scale);
+	Frame();
+	EXPECT_EQ(GetDrawnWidth(), 200.0f);
 }
 
 TEST_F(ProgressBarTest, EqualPercentInvalidatesNothing)

@@ -111,6 +111,7 @@ FWidgetStateBitfield UWidget::AskForStates() const
 	Ask(GetDefault<UWidgetHoveredStateRegistration>());
 	Ask(GetDefault<UWidgetPressedStateRegistration>());
 	Ask(GetDefault<UWidgetDisabledStateRegistration>());
+	Ask(GetDefault<UWidgetSelectedStateRegistration>());
 	return States;
 }
 

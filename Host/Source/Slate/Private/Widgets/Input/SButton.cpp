@@ -1,6 +1,7 @@
 #include "Widgets/Input/SButton.h"
 
 #include "Widgets/Input/KeyboardUse.h"
+#include "Widgets/Input/PointerUse.h"
 #include "Widgets/SNullWidget.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -157,7 +158,7 @@ FReply SButton::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEve
 	}
 	Press();
 	FReply Reply = FReply::Handled();
-	switch (GetClickMethodFor(MouseEvent))
+	switch (Host::GetClickMethodFor(MouseEvent, ClickMethod, TouchMethod))
 	{
 	case EButtonClickMethod::MouseDown:
 		Reply = ExecuteOnClick();
@@ -188,7 +189,7 @@ FReply SButton::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent
 	{
 		return FReply::Unhandled();
 	}
-	const EButtonClickMethod::Type Method = GetClickMethodFor(MouseEvent);
+	const EButtonClickMethod::Type Method = Host::GetClickMethodFor(MouseEvent, ClickMethod, TouchMethod);
 	const bool bPressedHere = bIsPressed;
 	const bool bOverButton = IsHovered();
 	FReply Reply = FReply::Handled();
@@ -325,22 +326,5 @@ void SButton::UpdatePadding()
 	if (!bContentPaddingBound)
 	{
 		ChildSlot.SetPadding(ContentPadding + GetStylePadding());
-	}
-}
-
-EButtonClickMethod::Type SButton::GetClickMethodFor(const FPointerEvent& Event) const
-{
-	if (!Event.IsTouchEvent())
-	{
-		return ClickMethod;
-	}
-	switch (TouchMethod)
-	{
-	case EButtonTouchMethod::Down:
-		return EButtonClickMethod::MouseDown;
-	case EButtonTouchMethod::PreciseTap:
-		return EButtonClickMethod::PreciseClick;
-	default:
-		return EButtonClickMethod::DownAndUp;
 	}
 }

@@ -2,6 +2,7 @@
 
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/KeyboardUse.h"
+#include "Widgets/Input/PointerUse.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/SBoxPanel.h"
 
@@ -41,6 +42,7 @@ void SCheckBox::Construct(const FArguments& InArgs)
 	TypeOverride = InArgs._Type;
 	PaddingOverride = InArgs._Padding;
 	ClickMethod = InArgs._ClickMethod;
+	TouchMethod = InArgs._TouchMethod;
 	PressMethod = InArgs._PressMethod;
 	bIsFocusable = InArgs._IsFocusable;
 	SetForegroundColor(InArgs._ForegroundColor);
@@ -162,11 +164,20 @@ FReply SCheckBox::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerE
 		return SCompoundWidget::OnMouseButtonDown(MyGeometry, MouseEvent);
 	}
 	SetPressed(true);
-	if (ClickMethod == EButtonClickMethod::MouseDown)
+	FReply Reply = FReply::Handled();
+	Reply.CaptureMouse(AsShared());
+	switch (Host::GetClickMethodFor(MouseEvent, ClickMethod, TouchMethod))
 	{
+	case EButtonClickMethod::MouseDown:
 		ToggleCheckedState();
+		break;
+	case EButtonClickMethod::PreciseClick:
+		Reply.DetectDrag(AsShared(), EKeys::LeftMouseButton);
+		break;
+	default:
+		break;
 	}
-	return FReply::Handled().CaptureMouse(AsShared());
+	return Reply;
 }
 
 FReply SCheckBox::OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
@@ -180,7 +191,8 @@ FReply SCheckBox::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEve
 	{
 		return SCompoundWidget::OnMouseButtonUp(MyGeometry, MouseEvent);
 	}
-	const bool bToggles = IsHovered() && ClickMethod != EButtonClickMethod::MouseDown && (bIsPressed || ClickMethod == EButtonClickMethod::MouseUp);
+	const EButtonClickMethod::Type Method = Host::GetClickMethodFor(MouseEvent, ClickMethod, TouchMethod);
+	const bool bToggles = IsHovered() && Method != EButtonClickMethod::MouseDown && (bIsPressed || Method == EButtonClickMethod::MouseUp);
 	FReply Reply = FReply::Handled();
 	if (HasMouseCapture())
 	{
@@ -192,6 +204,17 @@ FReply SCheckBox::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEve
 		ToggleCheckedState();
 	}
 	return Reply;
+}
+
+FReply SCheckBox::OnDragDetected(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+{
+	// Only precise clicks ask for it: the press has become a drag, and is no click any more.
+	if (bIsPressed)
+	{
+		SetPressed(false);
+		return FReply::Handled().ReleaseMouseCapture();
+	}
+	return SCompoundWidget::OnDragDetected(MyGeometry, MouseEvent);
 }
 
 void SCheckBox::OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)

@@ -24,6 +24,7 @@ void SProgressBar::Construct(const FArguments& InArgs)
 {
 	Style = InArgs._Style ? InArgs._Style : &FProgressBarStyle::GetDefault();
 	BarFillType = InArgs._BarFillType;
+	BarFillStyle = InArgs._BarFillStyle;
 	SetFillColorAndOpacity(InArgs._FillColorAndOpacity);
 	SetBorderPadding(InArgs._BorderPadding);
 	SetPercent(InArgs._Percent);
@@ -45,6 +46,15 @@ void SProgressBar::SetBarFillType(EProgressBarFillType::Type InBarFillType)
 	if (BarFillType != InBarFillType)
 	{
 		BarFillType = InBarFillType;
+		Invalidate(EInvalidateWidgetReason::Paint);
+	}
+}
+
+void SProgressBar::SetBarFillStyle(EProgressBarFillStyle::Type InBarFillStyle)
+{
+	if (BarFillStyle != InBarFillStyle)
+	{
+		BarFillStyle = InBarFillStyle;
 		Invalidate(EInvalidateWidgetReason::Paint);
 	}
 }
@@ -77,7 +87,7 @@ int32 SProgressBar::OnPaint(const FPaintArgs&, const FGeometry& AllottedGeometry
 	const FSlateBrush& Fill = Percent.IsSet() ? Style->FillImage : Style->MarqueeImage;
 	const FLinearColor FillTint = Fill.GetTint(InWidgetStyle) * Tint * FillColorAttribute.Get().GetColor(InWidgetStyle);
 	FSlateRect Shown = ComputeFill(Size, FMath::Clamp(Percent.Get(0.0f), 0.0f, 1.0f));
-	FSlateRect Drawn(0.0f, 0.0f, Size.X, Size.Y);
+	FSlateRect Drawn = BarFillStyle == EProgressBarFillStyle::Scale ? Shown : FSlateRect(0.0f, 0.0f, Size.X, Size.Y);
 	if (!Percent.IsSet())
 	{
 		const_cast<SProgressBar*>(this)->KeepMarqueeMoving();
@@ -86,7 +96,7 @@ int32 SProgressBar::OnPaint(const FPaintArgs&, const FGeometry& AllottedGeometry
 		Shown = FSlateRect(0.0f, 0.0f, Size.X, Size.Y);
 	}
 
-	// The filled part is a window on the whole picture, so that its ends keep their shape.
+	// A masked picture is seen through the filled part as through a window, so that its ends keep their shape.
 	const FGeometry Inside = AllottedGeometry.MakeChild(Size, FSlateLayoutTransform(Padding));
 	const FGeometry Window = Inside.MakeChild(Shown.GetSize(), FSlateLayoutTransform(Shown.GetTopLeft()));
 	OutDrawElements.PushClip(FSlateClippingZone(Window));

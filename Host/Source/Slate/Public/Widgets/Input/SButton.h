@@ -123,8 +123,6 @@ private:
 	const FSlateColor& ChooseForeground() const;
 	const FMargin& GetStylePadding() const { return bIsPressed ? Style->PressedPadding : Style->NormalPadding; }
 	void UpdatePadding();
-	/** The click method that a mouse or touch event goes by. */
-	EButtonClickMethod::Type GetClickMethodFor(const FPointerEvent& Event) const;
 
 	const FButtonStyle* Style = nullptr;
 	/** Unless the content padding is bound to a getter. */

@@ -20,6 +20,7 @@ public:
 		, _IsChecked(ECheckBoxState::Unchecked)
 		, _HAlign(HAlign_Fill)
 		, _ClickMethod(EButtonClickMethod::DownAndUp)
+		, _TouchMethod(EButtonTouchMethod::DownAndUp)
 		, _PressMethod(EButtonPressMethod::DownAndUp)
 		, _ForegroundColor(FSlateColor::UseStyle())
 		, _IsFocusable(true)
@@ -38,6 +39,8 @@ public:
 		/** In place of the padding of the style. */
 		SLATE_ATTRIBUTE(FMargin, Padding)
 		SLATE_ARGUMENT(EButtonClickMethod::Type, ClickMethod)
+		/** For touch; a mouse is ruled by ClickMethod. */
+		SLATE_ARGUMENT(EButtonTouchMethod::Type, TouchMethod)
 		/** For the keyboard. */
 		SLATE_ARGUMENT(EButtonPressMethod::Type, PressMethod)
 		/** Of the content; that of the style and state when it is "use style". */
@@ -58,6 +61,7 @@ public:
 	/** Also to be called when the style was changed in place. Null stands for the default style. */
 	void SetStyle(const FCheckBoxStyle* InStyle);
 	void SetClickMethod(EButtonClickMethod::Type InClickMethod) { ClickMethod = InClickMethod; }
+	void SetTouchMethod(EButtonTouchMethod::Type InTouchMethod) { TouchMethod = InTouchMethod; }
 	void SetPressMethod(EButtonPressMethod::Type InPressMethod) { PressMethod = InPressMethod; }
 
 	bool IsPressed() const { return bIsPressed; }
@@ -72,6 +76,7 @@ public:
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+	virtual FReply OnDragDetected(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseLeave(const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent) override;
@@ -102,8 +107,9 @@ private:
 	TAttribute<FMargin> PaddingOverride;
 	/** What the brushes were chosen for. */
 	ECheckBoxState ShownState = ECheckBoxState::Unchecked;
-	EButtonClickMethod::Type ClickMethod = EButtonClickMethod::DownAndUp;
-	EButtonPressMethod::Type PressMethod = EButtonPressMethod::DownAndUp;
+	TEnumAsByte<EButtonClickMethod::Type> ClickMethod = EButtonClickMethod::DownAndUp;
+	TEnumAsByte<EButtonTouchMethod::Type> TouchMethod = EButtonTouchMethod::DownAndUp;
+	TEnumAsByte<EButtonPressMethod::Type> PressMethod = EButtonPressMethod::DownAndUp;
 	bool bIsFocusable = true;
 	bool bIsPressed = false;
 };

@@ -23,6 +23,19 @@ namespace EProgressBarFillType
 	};
 }
 
+/** What becomes of the picture of the done part. */
+UENUM(BlueprintType)
+namespace EProgressBarFillStyle
+{
+	enum Type : int
+	{
+		/** It is as large as the bar, and cut off where the done part ends. */
+		Mask,
+		/** It is stretched over the done part. */
+		Scale,
+	};
+}
+
 /** Shows how much of something is done; or, while that is unknown, that something is being done. */
 class SLATE_API SProgressBar : public SLeafWidget
 {
@@ -30,6 +43,7 @@ public:
 	SLATE_BEGIN_ARGS(SProgressBar)
 		: _Style(&FCoreStyle::Get().GetWidgetStyle<FProgressBarStyle>("ProgressBar"))
 		, _BarFillType(EProgressBarFillType::LeftToRight)
+		, _BarFillStyle(EProgressBarFillStyle::Mask)
 		, _Percent(TOptional<float>())
 		, _FillColorAndOpacity(FSlateColor(FLinearColor(1.0f, 1.0f, 1.0f, 1.0f)))
 		, _BorderPadding(FVector2D(1.0, 0.0))
@@ -38,6 +52,7 @@ public:
 		/** Kept by address. */
 		SLATE_STYLE_ARGUMENT(FProgressBarStyle, Style)
 		SLATE_ARGUMENT(EProgressBarFillType::Type, BarFillType)
+		SLATE_ARGUMENT(EProgressBarFillStyle::Type, BarFillStyle)
 		/** From 0 to 1; unset while it is unknown. */
 		SLATE_ATTRIBUTE(TOptional<float>, Percent)
 		SLATE_ATTRIBUTE(FSlateColor, FillColorAndOpacity)
@@ -52,6 +67,7 @@ public:
 	/** Also to be called when the style was changed in place. */
 	void SetStyle(const FProgressBarStyle* InStyle);
 	void SetBarFillType(EProgressBarFillType::Type InBarFillType);
+	void SetBarFillStyle(EProgressBarFillStyle::Type InBarFillStyle);
 	void SetFillColorAndOpacity(TAttribute<FSlateColor> InFillColorAndOpacity);
 	void SetBorderPadding(TAttribute<FVector2D> InBorderPadding);
 
@@ -77,5 +93,6 @@ private:
 	float MarqueePlace = 0.0f;
 	/** It was painted since it moved last. */
 	bool bMarqueeSeen = false;
-	EProgressBarFillType::Type BarFillType = EProgressBarFillType::LeftToRight;
+	TEnumAsByte<EProgressBarFillType::Type> BarFillType = EProgressBarFillType::LeftToRight;
+	TEnumAsByte<EProgressBarFillStyle::Type> BarFillStyle = EProgressBarFillStyle::Mask;
 };

@@ -1,6 +1,7 @@
 #include "Binding/States/WidgetStateRegistration.h"
 
 #include "Components/Button.h"
+#include "Components/CheckBox.h"
 
 FName UWidgetBinaryStateRegistration::GetStateName() const
 {
@@ -41,4 +42,15 @@ FName UWidgetDisabledStateRegistration::GetStateName() const
 bool UWidgetDisabledStateRegistration::GetRegisteredWidgetState(const UWidget* InWidget) const
 {
 	return InWidget && !InWidget->GetIsEnabled();
+}
+
+FName UWidgetSelectedStateRegistration::GetStateName() const
+{
+	return TEXT("Selected");
+}
+
+bool UWidgetSelectedStateRegistration::GetRegisteredWidgetState(const UWidget* InWidget) const
+{
+	const UCheckBox* CheckBox = Cast<UCheckBox>(InWidget);
+	return CheckBox && CheckBox->IsChecked();
 }

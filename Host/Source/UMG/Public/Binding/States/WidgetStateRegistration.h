@@ -61,3 +61,17 @@ public:
 	UMG_API virtual FName GetStateName() const override;
 	UMG_API virtual bool GetRegisteredWidgetState(const UWidget* InWidget) const override;
 };
+
+/** The widget is checked. */
+UCLASS(Transient, MinimalAPI)
+class UWidgetSelectedStateRegistration : public UWidgetBinaryStateRegistration
+{
+	GENERATED_BODY()
+
+public:
+	/** The set of this state alone. */
+	static const inline FWidgetStateBitfield Bit = FWidgetStateBitfield(3);
+
+	UMG_API virtual FName GetStateName() const override;
+	UMG_API virtual bool GetRegisteredWidgetState(const UWidget* InWidget) const override;
+};
