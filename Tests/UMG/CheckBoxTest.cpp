@@ -172,6 +172,16 @@ namespace
 		EXPECT_FALSE(Content->IsConstructed());
 	}
 
+	TEST_F(FCheckBoxTest, HorizontalAlignmentPlacesTheContent)
+	{
+		USizeBox* Content = NewObject<USizeBox>(Box);
+		Content->SetWidthOverride(30.0f);
+		Box->SetContent(Content);
+		Box->HorizontalAlignment = HAlign_Right;
+		Show();
+		EXPECT_GT(Driver.GetMiddle(*Content).X, 120.0);
+	}
+
 	TEST_F(FCheckBoxTest, StyleOfAToggleButtonPutsTheContentInside)
 	{
 		USizeBox* Content = NewObject<USizeBox>(Box);
