@@ -97,6 +97,7 @@ bool FViewer::Start()
 	Settings.bHeadless = Options.bHeadless;
 	Settings.Renderer = Options.Renderer;
 	Settings.WindowSize = Options.Size;
+	Settings.bKeepWindowSize = Options.bSizeGiven;
 	Settings.Scale = Options.Scale;
 	Settings.Title = FText::AsCultureInvariant(TEXT("Halvex"));
 	Settings.PluginFolder = TEXT(HALVEX_PLUGIN_DIR);

@@ -76,6 +76,7 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	if (!Size.empty())
 	{
 		ParseSize(Size, OutOptions.Size);
+		OutOptions.bSizeGiven = true;
 	}
 	Host::ParseRendererChoice(ToFString(Renderer), OutOptions.Renderer);
 	return EViewerStart::Run;

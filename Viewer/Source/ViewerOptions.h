@@ -12,6 +12,8 @@ struct FViewerOptions
 	/** Object path of the style configuration; empty for the one of the project settings. */
 	FString Style;
 	FIntPoint Size = FIntPoint(1280, 800);
+	/** The size was given, not the default. */
+	bool bSizeGiven = false;
 	/** Pixels a Slate unit; 0 for what the system asks for. */
 	float Scale = 0.0f;
 	bool bHeadless = false;

@@ -3,6 +3,7 @@
 #include "Engine/GameInstance.h"
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
+#include "GameFramework/GameUserSettings.h"
 
 UEngine* GEngine = nullptr;
 
@@ -15,6 +16,17 @@ void UEngine::Init()
 	GameViewport = GameInstance->GetGameViewportClient();
 }
 
+UGameUserSettings* UEngine::GetGameUserSettings()
+{
+	if (!GameUserSettings)
+	{
+		UClass* Class = GameUserSettingsClassName.IsNull() ? nullptr : GameUserSettingsClassName.TryLoadClass<UGameUserSettings>();
+		GameUserSettings = NewObject<UGameUserSettings>(this, Class ? Class : UGameUserSettings::StaticClass());
+		GameUserSettings->LoadSettings();
+	}
+	return GameUserSettings;
+}
+
 void UEngine::PreExit()
 {
 	if (GameInstance)
@@ -23,6 +35,7 @@ void UEngine::PreExit()
 	}
 	GameViewport = nullptr;
 	GameInstance = nullptr;
+	GameUserSettings = nullptr;
 	if (EngineSubsystems)
 	{
 		EngineSubsystems->Deinitialize();

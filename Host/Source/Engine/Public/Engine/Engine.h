@@ -4,13 +4,15 @@
 #include "Subsystems/EngineSubsystem.h"
 #include "Subsystems/SubsystemCollection.h"
 #include "UObject/Object.h"
+#include "UObject/SoftObjectPath.h"
 #include "Engine.generated.h"
 
 class UGameInstance;
+class UGameUserSettings;
 class UGameViewportClient;
 
 /** What lives as long as the program: the engine's subsystems and the running game. */
-UCLASS(Transient)
+UCLASS(Config = Engine, Transient)
 class ENGINE_API UEngine : public UObject
 {
 	GENERATED_BODY()
@@ -19,6 +21,17 @@ public:
 	/** The viewport of the running game; null when there is none. */
 	UPROPERTY(Transient)
 	TObjectPtr<UGameViewportClient> GameViewport;
+
+	/** The class of the user's settings, for projects that have more of them; none for UGameUserSettings. */
+	UPROPERTY(GlobalConfig)
+	FSoftClassPath GameUserSettingsClassName;
+
+	/** What the user has chosen; null before it is asked for. */
+	UPROPERTY(Transient)
+	TObjectPtr<UGameUserSettings> GameUserSettings;
+
+	/** The user's settings, loaded but not applied when they are made for the first question. */
+	UGameUserSettings* GetGameUserSettings();
 
 	/** Creates the engine subsystems, then the game. */
 	virtual void Init();

@@ -5,6 +5,7 @@
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
+#include "GameFramework/GameUserSettings.h"
 #include "HAL/PlatformProcess.h"
 #include "HAL/PlatformTime.h"
 #include "Host/Clock.h"
@@ -18,6 +19,7 @@
 #include "Host/Mounts.h"
 #include "Host/SlateLoop.h"
 #include "Host/StartModules.h"
+#include "Host/WindowVideoMode.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
@@ -77,6 +79,7 @@ namespace Host
 		GEngine->AddToRoot();
 		GEngine->Init();
 		StartWindow();
+		ApplyUserSettings();
 		LastCollection = FClock::Now();
 		return true;
 	}
@@ -126,6 +129,22 @@ namespace Host
 		}
 		Window->SetDPIScaleFactor(Settings.Scale > 0.0f ? Settings.Scale : Scale);
 		FSlateApplication::Get().AddWindow(Window.ToSharedRef());
+		VideoMode = MakeUnique<FWindowVideoMode>(Window.ToSharedRef());
+	}
+
+	void FEngineLoop::ApplyUserSettings()
+	{
+		UGameUserSettings* const UserSettings = GEngine->GetGameUserSettings();
+		// Before the user has saved anything the program decides; and what is made without a screen must not depend on who makes it.
+		if (Settings.bHeadless || !GConfig->DoesSectionExist(*UGameUserSettings::StaticClass()->GetPathName(), GGameUserSettingsIni))
+		{
+			return;
+		}
+		UserSettings->ApplyNonResolutionSettings();
+		if (!Settings.bKeepWindowSize)
+		{
+			UserSettings->ApplyResolutionSettings(true);
+		}
 	}
 
 	int32 FEngineLoop::Run()
@@ -262,6 +281,7 @@ namespace Host
 		{
 			GEngine->PreExit();
 		}
+		VideoMode.Reset();
 		Window.Reset();
 		if (FSlateApplication::IsInitialized())
 		{

@@ -12,6 +12,7 @@ namespace Host
 {
 	class FDesktopApplication;
 	class FDesktopInput;
+	class FWindowVideoMode;
 
 	/** How a program starts. */
 	struct FEngineLoopSettings
@@ -21,6 +22,8 @@ namespace Host
 		ERendererChoice Renderer = ERendererChoice::Auto;
 		/** Size of the window in pixels. */
 		FIntPoint WindowSize = FIntPoint(1280, 800);
+		/** The size was asked for: it counts more than the one that the user saved. */
+		bool bKeepWindowSize = false;
 		/** Pixels a Slate unit; 0 for what the system asks for. */
 		float Scale = 0.0f;
 		FText Title;
@@ -71,6 +74,8 @@ namespace Host
 	private:
 		bool StartPlatform(FString& OutError);
 		void StartWindow();
+		/** Brings what the user saved to the window, where people see it. */
+		void ApplyUserSettings();
 		/** Until something is due; negative when nothing is. */
 		double GetSecondsUntilNextFrame() const;
 		/** As GetSecondsUntilNextFrame, but not before the screen can show another frame than that of the given start. */
@@ -82,6 +87,7 @@ namespace Host
 		TUniquePtr<FDesktopInput> Input;
 		TSharedPtr<FSlateRenderer> Renderer;
 		TSharedPtr<SWindow> Window;
+		TUniquePtr<FWindowVideoMode> VideoMode;
 		double LastCollection = 0.0;
 		int32 ExitCode = 0;
 		bool bStarted = false;

@@ -1,11 +1,14 @@
 #include "Sdl/SdlGlContext.h"
 
+#include "HAL/IConsoleManager.h"
 #include "Sdl/SdlLibrary.h"
 
 namespace Host
 {
 	namespace
 	{
+		TAutoConsoleVariable<int32> VSync(TEXT("r.VSync"), 0, TEXT("1: pictures wait for the screen, so that none is shown torn. 0: they do not."));
+
 		/** What every window must have in common, so that one context draws into all of them. */
 		void RequestFormat(const FSdl& Sdl)
 		{
@@ -61,12 +64,17 @@ namespace Host
 					return false;
 				}
 				CurrentWindow = Window;
-				Sdl.GL_SetSwapInterval(1);
+				SwapInterval = UnknownInterval;
 				return true;
 			}
 
 			virtual void SwapBuffers(void* NativeWindow) override
 			{
+				if (const int32 Wanted = VSync.GetValueOnGameThread() != 0 ? 1 : 0; Wanted != SwapInterval)
+				{
+					FSdl::Get().GL_SetSwapInterval(Wanted);
+					SwapInterval = Wanted;
+				}
 				FSdl::Get().GL_SwapWindow(static_cast<SDL_Window*>(NativeWindow));
 			}
 
@@ -82,6 +90,9 @@ namespace Host
 		private:
 			SDL_Window* HiddenWindow = nullptr;
 			SDL_Window* CurrentWindow = nullptr;
+			/** Of the current window, which begins with one of the system's choice. */
+			static constexpr int32 UnknownInterval = -1;
+			int32 SwapInterval = UnknownInterval;
 			SDL_GLContext Context = nullptr;
 		};
 	}

@@ -1,0 +1,308 @@
+#include "GameFramework/GameUserSettings.h"
+
+#include "Engine/Engine.h"
+#include "HAL/IConsoleManager.h"
+#include "Host/Displays.h"
+#include "Host/RankedSet.h"
+#include "Host/VideoModeHost.h"
+#include "Misc/CommandLine.h"
+#include "Misc/ConfigCacheIni.h"
+#include "Misc/Parse.h"
+
+namespace
+{
+	const TCHAR* const VSyncName = TEXT("r.VSync");
+
+	/** The largest side of a window that anything could show. */
+	constexpr int32 LargestSide = 16384;
+
+	/** What the command line says instead of the settings. */
+	void ApplyCommandLine(Host::FVideoMode& Mode)
+	{
+		const TCHAR* const CommandLine = FCommandLine::Get();
+		FParse::Value(CommandLine, TEXT("ResX="), Mode.Size.X);
+		FParse::Value(CommandLine, TEXT("ResY="), Mode.Size.Y);
+		if (FParse::Param(CommandLine, TEXT("windowed")))
+		{
+			Mode.WindowMode = EWindowMode::Windowed;
+		}
+		else if (FParse::Param(CommandLine, TEXT("fullscreen")))
+		{
+			Mode.WindowMode = EWindowMode::Fullscreen;
+		}
+	}
+
+	void ValidateNumber(const TCHAR* Name, int32& Value, int32 Least, int32 Most, int32 Used)
+	{
+		if (Value < Least || Value > Most)
+		{
+			UE_LOG(LogCore, Warning, TEXT("%s: %s: expected %d to %d, found %d; %d is used"), *GGameUserSettingsIni, Name, Least, Most, Value, Used);
+			Value = Used;
+		}
+	}
+}
+
+UGameUserSettings::UGameUserSettings(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+	UGameUserSettings::SetToDefaults();
+}
+
+UGameUserSettings* UGameUserSettings::GetGameUserSettings()
+{
+	return GEngine ? GEngine->GetGameUserSettings() : nullptr;
+}
+
+void UGameUserSettings::ApplySettings(bool bCheckForCommandLineOverrides)
+{
+	ApplyResolutionSettings(bCheckForCommandLineOverrides);
+	ApplyNonResolutionSettings();
+	SaveSettings();
+}
+
+void UGameUserSettings::ApplyResolutionSettings(bool bCheckForCommandLineOverrides)
+{
+	ValidateSettings();
+	Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
+	if (!Window)
+	{
+		return;
+	}
+	Host::FVideoMode Mode{ GetScreenResolution(), GetFullscreenMode() };
+	if (bCheckForCommandLineOverrides)
+	{
+		ApplyCommandLine(Mode);
+	}
+	if (Mode != Window->GetVideoMode())
+	{
+		Window->SetVideoMode(Mode);
+	}
+}
+
+void UGameUserSettings::ApplyNonResolutionSettings()
+{
+	ValidateSettings();
+	if (IConsoleVariable* const VSync = IConsoleManager::Get().FindConsoleVariable(VSyncName))
+	{
+		Host::SetUnlessOutranked(*VSync, bUseVSync ? TEXT("1") : TEXT("0"), ECVF_SetByGameSetting);
+	}
+	Scalability::SetQualityLevels(ScalabilityQuality);
+}
+
+void UGameUserSettings::LoadSettings(bool bForceReload)
+{
+	if (bForceReload)
+	{
+		GConfig->Flush(true, GGameUserSettingsIni);
+	}
+	// A choice that the file does not know was not saved.
+	SetToDefaults();
+	LoadConfig(GetClass(), *GGameUserSettingsIni);
+	Scalability::LoadState(GGameUserSettingsIni, ScalabilityQuality);
+	ValidateSettings();
+}
+
+void UGameUserSettings::SaveSettings()
+{
+	// Ahead of the other values, with which it is written in one go.
+	Scalability::SaveState(GGameUserSettingsIni, ScalabilityQuality);
+	SaveConfig(CPF_Config, *GGameUserSettingsIni);
+}
+
+void UGameUserSettings::SetToDefaults()
+{
+	SetScreenResolution(GetDefaultResolution());
+	SetFullscreenMode(GetDefaultWindowMode());
+	ConfirmVideoMode();
+	bUseVSync = false;
+	AudioQualityLevel = 0;
+	ScalabilityQuality = Scalability::FQualityLevels();
+}
+
+void UGameUserSettings::ResetToCurrentSettings()
+{
+	if (const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get())
+	{
+		SetScreenResolution(Window->GetVideoMode().Size);
+		SetFullscreenMode(Window->GetVideoMode().WindowMode);
+	}
+	if (const IConsoleVariable* const VSync = IConsoleManager::Get().FindConsoleVariable(VSyncName))
+	{
+		bUseVSync = VSync->GetBool();
+	}
+	ScalabilityQuality = Scalability::GetQualityLevels();
+}
+
+void UGameUserSettings::ValidateSettings()
+{
+	const FIntPoint Default = GetDefaultResolution();
+	ValidateNumber(TEXT("ResolutionSizeX"), ResolutionSizeX, 1, LargestSide, Default.X);
+	ValidateNumber(TEXT("ResolutionSizeY"), ResolutionSizeY, 1, LargestSide, Default.Y);
+	ValidateNumber(TEXT("LastUserConfirmedResolutionSizeX"), LastUserConfirmedResolutionSizeX, 1, LargestSide, Default.X);
+	ValidateNumber(TEXT("LastUserConfirmedResolutionSizeY"), LastUserConfirmedResolutionSizeY, 1, LargestSide, Default.Y);
+	ValidateNumber(TEXT("FullscreenMode"), FullscreenMode, EWindowMode::Fullscreen, EWindowMode::Windowed, EWindowMode::Windowed);
+	ValidateNumber(TEXT("LastConfirmedFullscreenMode"), LastConfirmedFullscreenMode, EWindowMode::Fullscreen, EWindowMode::Windowed, EWindowMode::Windowed);
+	ValidateNumber(TEXT("AudioQualityLevel"), AudioQualityLevel, 0, MAX_int32, 0);
+	ScalabilityQuality.Clamp();
+}
+
+bool UGameUserSettings::IsDirty() const
+{
+	return IsScreenResolutionDirty() || IsFullscreenModeDirty() || IsVSyncDirty();
+}
+
+bool UGameUserSettings::IsScreenResolutionDirty() const
+{
+	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
+	return Window && Window->GetVideoMode().Size != GetScreenResolution();
+}
+
+bool UGameUserSettings::IsFullscreenModeDirty() const
+{
+	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
+	return Window && Window->GetVideoMode().WindowMode != GetFullscreenMode();
+}
+
+bool UGameUserSettings::IsVSyncDirty() const
+{
+	const IConsoleVariable* const VSync = IConsoleManager::Get().FindConsoleVariable(VSyncName);
+	return VSync && VSync->GetBool() != bUseVSync;
+}
+
+void UGameUserSettings::ConfirmVideoMode()
+{
+	LastUserConfirmedResolutionSizeX = ResolutionSizeX;
+	LastUserConfirmedResolutionSizeY = ResolutionSizeY;
+	LastConfirmedFullscreenMode = FullscreenMode;
+}
+
+void UGameUserSettings::RevertVideoMode()
+{
+	ResolutionSizeX = LastUserConfirmedResolutionSizeX;
+	ResolutionSizeY = LastUserConfirmedResolutionSizeY;
+	FullscreenMode = LastConfirmedFullscreenMode;
+}
+
+void UGameUserSettings::SetScreenResolution(FIntPoint Resolution)
+{
+	ResolutionSizeX = Resolution.X;
+	ResolutionSizeY = Resolution.Y;
+}
+
+FIntPoint UGameUserSettings::GetDesktopResolution() const
+{
+	const Host::FDisplayMode Desktop = Host::FDisplays::GetDesktopMode();
+	return FIntPoint(Desktop.Width, Desktop.Height);
+}
+
+FIntPoint UGameUserSettings::GetDefaultResolution()
+{
+	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
+	const Host::FDisplayMode Desktop = Host::FDisplays::GetDesktopMode();
+	return Window ? Window->GetVideoMode().Size : FIntPoint(Desktop.Width, Desktop.Height);
+}
+
+EWindowMode::Type UGameUserSettings::GetDefaultWindowMode()
+{
+	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
+	return Window ? Window->GetVideoMode().WindowMode : EWindowMode::Windowed;
+}
+
+void UGameUserSettings::SetFullscreenMode(EWindowMode::Type InFullscreenMode)
+{
+	FullscreenMode = InFullscreenMode;
+}
+
+void UGameUserSettings::SetOverallScalabilityLevel(int32 Value)
+{
+	ScalabilityQuality.SetFromSingleQualityLevel(Value);
+}
+
+int32 UGameUserSettings::GetOverallScalabilityLevel() const
+{
+	return ScalabilityQuality.GetSingleQualityLevel();
+}
+
+void UGameUserSettings::SetViewDistanceQuality(int32 Value)
+{
+	ScalabilityQuality.ViewDistanceQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetShadowQuality(int32 Value)
+{
+	ScalabilityQuality.ShadowQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetGlobalIlluminationQuality(int32 Value)
+{
+	ScalabilityQuality.GlobalIlluminationQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetReflectionQuality(int32 Value)
+{
+	ScalabilityQuality.ReflectionQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetAntiAliasingQuality(int32 Value)
+{
+	ScalabilityQuality.AntiAliasingQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetTextureQuality(int32 Value)
+{
+	ScalabilityQuality.TextureQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetVisualEffectQuality(int32 Value)
+{
+	ScalabilityQuality.EffectsQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetPostProcessingQuality(int32 Value)
+{
+	ScalabilityQuality.PostProcessQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetFoliageQuality(int32 Value)
+{
+	ScalabilityQuality.FoliageQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetShadingQuality(int32 Value)
+{
+	ScalabilityQuality.ShadingQuality = Value;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetResolutionScaleValueEx(float NewScaleValue)
+{
+	ScalabilityQuality.ResolutionQuality = NewScaleValue;
+	ScalabilityQuality.Clamp();
+}
+
+void UGameUserSettings::SetResolutionScaleNormalized(float NewScaleNormalized)
+{
+	SetResolutionScaleValueEx(FMath::Lerp(Scalability::MinResolutionScale, Scalability::MaxResolutionScale, NewScaleNormalized));
+}
+
+float UGameUserSettings::GetResolutionScaleNormalized() const
+{
+	return (ScalabilityQuality.ResolutionQuality - Scalability::MinResolutionScale) / (Scalability::MaxResolutionScale - Scalability::MinResolutionScale);
+}
+
+void UGameUserSettings::GetResolutionScaleInformationEx(float& CurrentScaleNormalized, float& CurrentScaleValue, float& MinScaleValue, float& MaxScaleValue) const
+{
+	CurrentScaleNormalized = GetResolutionScaleNormalized();
+	CurrentScaleValue = ScalabilityQuality.ResolutionQuality;
+	MinScaleValue = Scalability::MinResolutionScale;
+	MaxScaleValue = Scalability::MaxResolutionScale;
+}
