@@ -4,6 +4,7 @@
 #include "Blueprint/WidgetTree.h"
 #include "Components/Border.h"
 #include "Components/CheckBox.h"
+#include "Components/ComboBoxString.h"
 #include "Components/EditableText.h"
 #include "Components/ProgressBar.h"
 #include "Components/Slider.h"
@@ -188,6 +189,22 @@ namespace
 		Driver.SingleClickAt(Driver.GetMiddle(*Widget->GetWidgetFromName(TEXT("Step"))));
 		EXPECT_FALSE(Bar->UseMarquee());
 		EXPECT_EQ(Bar->GetPercent(), 0.75f);
+	}
+
+	TEST_F(FWidgetBlueprintTest, ComboBoxesTellTheFunctionsBoundToThem)
+	{
+		UClass* Class = Load(TEXT("Combos"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "ComboBoxString", "Name": "Quality", "Properties": { "DefaultOptions": ["Low", "High"], "SelectedOption": "Low" } },
+			{ "Class": "TextBlock", "Name": "Label" } ] } })",
+			"function OnInitialized(self) self.Quality.OnSelectionChanged:Add(function(item, cause) self.Label:SetText(cause .. ' ' .. item) end) end");
+		UUserWidget* Widget = Show(Class);
+		const UComboBoxString* Quality = Cast<UComboBoxString>(Widget->GetWidgetFromName(TEXT("Quality")));
+		ASSERT_TRUE(Quality);
+		EXPECT_EQ(Host::ToStd(Quality->GetSelectedOption()), "Low");
+		Driver.ClickAt(Driver.GetMiddle(*Quality));
+		Driver.PressKey(EKeys::Down);
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "OnKeyPress High");
 	}
 
 	TEST_F(FWidgetBlueprintTest, BlueprintsDeriveFromBlueprints)

@@ -3,6 +3,7 @@
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateNoResource.h"
 #include "Brushes/SlateRoundedBoxBrush.h"
+#include "Styling/ComboBoxStyle.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateTypes.h"
 
@@ -124,6 +125,27 @@ namespace Host
 				.SetFocusedForegroundColor(FLinearColor::White)
 				.SetReadOnlyForegroundColor(Grey(128)));
 		}
+
+		void AddComboBoxes(FSlateStyleSet& Set)
+		{
+			Set.Set("TableView.Row", FTableRowStyle()
+				.SetActiveBrush(FSlateRoundedBoxBrush(Accent(), 3.0f))
+				.SetActiveHoveredBrush(FSlateRoundedBoxBrush(BrightAccent(), 3.0f))
+				.SetEvenRowBackgroundBrush(FSlateNoResource())
+				.SetEvenRowBackgroundHoveredBrush(FSlateRoundedBoxBrush(Grey(70), 3.0f))
+				.SetOddRowBackgroundBrush(FSlateNoResource())
+				.SetOddRowBackgroundHoveredBrush(FSlateRoundedBoxBrush(Grey(70), 3.0f))
+				.SetTextColor(Grey(192))
+				.SetSelectedTextColor(FLinearColor::White));
+
+			Set.Set("ComboBox", FComboBoxStyle()
+				.SetComboButtonStyle(FComboButtonStyle()
+					.SetButtonStyle(Set.GetWidgetStyle<FButtonStyle>("Button"))
+					.SetDownArrowImage(Sized(FSlateRoundedBoxBrush(Grey(192), 3.0f), 6.0f, 6.0f))
+					.SetMenuBorderBrush(*Set.GetBrush("Menu.Background"))
+					.SetMenuBorderPadding(FMargin(3.0f)))
+				.SetMenuRowPadding(FMargin(8.0f, 2.0f)));
+		}
 	}
 
 	void AddCoreControlStyles(FSlateStyleSet& Set)
@@ -132,5 +154,6 @@ namespace Host
 		AddBars(Set);
 		AddScrolling(Set);
 		AddTextBoxes(Set);
+		AddComboBoxes(Set);
 	}
 }

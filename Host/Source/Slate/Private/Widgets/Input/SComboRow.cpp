@@ -1,0 +1,91 @@
+#include "Widgets/Input/SComboRow.h"
+
+#include "InputCoreTypes.h"
+
+namespace Host
+{
+	void SComboRow::Construct(const FArguments& InArgs)
+	{
+		Style = InArgs._RowStyle ? InArgs._RowStyle : &FTableRowStyle::GetDefault();
+		OnClicked = InArgs._OnClicked;
+		Index = InArgs._Index;
+		bMarked = InArgs._Marked;
+		SBorder::Construct(SBorder::FArguments()
+			.BorderImage(ChooseBrush())
+			.Padding(InArgs._RowPadding)
+			[
+				InArgs._Content.Widget
+			]);
+	}
+
+	void SComboRow::SetMarked(bool bInMarked)
+	{
+		if (bMarked != bInMarked)
+		{
+			bMarked = bInMarked;
+			UpdateLook();
+		}
+	}
+
+	FSlateColor SComboRow::GetForegroundColor() const
+	{
+		return bMarked ? Style->SelectedTextColor : Style->TextColor;
+	}
+
+	FReply SComboRow::OnMouseButtonDown(const FGeometry&, const FPointerEvent& MouseEvent)
+	{
+		return MouseEvent.GetEffectingButton() == EKeys::LeftMouseButton ? FReply::Handled().CaptureMouse(AsShared()) : FReply::Unhandled();
+	}
+
+	FReply SComboRow::OnMouseButtonUp(const FGeometry&, const FPointerEvent& MouseEvent)
+	{
+		if (MouseEvent.GetEffectingButton() != EKeys::LeftMouseButton || !HasMouseCapture())
+		{
+			return FReply::Unhandled();
+		}
+		if (IsHovered())
+		{
+			// It closes the list, and this delegate goes with it.
+			const FSimpleDelegate Handler = OnClicked;
+			Handler.ExecuteIfBound();
+		}
+		return FReply::Handled().ReleaseMouseCapture();
+	}
+
+	FReply SComboRow::OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+	{
+		return OnMouseButtonDown(MyGeometry, MouseEvent);
+	}
+
+	void SComboRow::OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
+	{
+		SBorder::OnMouseEnter(MyGeometry, MouseEvent);
+		UpdateLook();
+	}
+
+	void SComboRow::OnMouseLeave(const FPointerEvent& MouseEvent)
+	{
+		SBorder::OnMouseLeave(MouseEvent);
+		UpdateLook();
+	}
+
+	const FSlateBrush* SComboRow::ChooseBrush() const
+	{
+		if (bMarked)
+		{
+			return IsHovered() ? &Style->ActiveHoveredBrush : &Style->ActiveBrush;
+		}
+		if (Index % 2 == 0)
+		{
+			return IsHovered() ? &Style->EvenRowBackgroundHoveredBrush : &Style->EvenRowBackgroundBrush;
+		}
+		return IsHovered() ? &Style->OddRowBackgroundHoveredBrush : &Style->OddRowBackgroundBrush;
+	}
+
+	void SComboRow::UpdateLook()
+	{
+		ChangeBorderImage(ChooseBrush());
+		// The foreground of the content follows the state too.
+		Invalidate(EInvalidateWidgetReason::Paint);
+	}
+}
