@@ -48,10 +48,7 @@ namespace Host
 
 	void FSlateEventForwarder::OnMouseLeave(const TSharedRef<FGenericWindow>&)
 	{
-		// A place where no widget is: nothing stays hovered.
-		const FVector2f Outside(-1.0f, -1.0f);
-		const FVector2f Last(GetSlate().GetCursorPos());
-		GetSlate().ProcessMouseMoveEvent(FPointerEvent(0, Outside, Last, GetSlate().GetPressedMouseButtons(), FKey(), 0.0f, GetSlate().GetModifierKeys()));
+		FSlateLoop::MouseLeft();
 	}
 
 	void FSlateEventForwarder::OnKeyDown(const FKeyEvent& Event)

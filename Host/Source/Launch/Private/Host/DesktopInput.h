@@ -1,16 +1,14 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Host/DesktopEvents.h"
-
-class SWindow;
+#include "Host/SlateEventForwarder.h"
 
 namespace Host
 {
 	class FEngineLoop;
 
-	/** Hands what happens to the system's window on to Slate. */
-	class FDesktopInput final : public FDesktopEventHandler
+	/** Hands what happens to the system's window on to Slate; the program ends with its window. */
+	class FDesktopInput final : public FSlateEventForwarder
 	{
 	public:
 		explicit FDesktopInput(FEngineLoop& InLoop)
@@ -18,25 +16,11 @@ namespace Host
 		{
 		}
 
-		virtual void OnMouseMove(const TSharedRef<FGenericWindow>& Window, const FPointerEvent& Event) override;
-		virtual void OnMouseButtonDown(const TSharedRef<FGenericWindow>& Window, const FPointerEvent& Event) override;
-		virtual void OnMouseButtonUp(const TSharedRef<FGenericWindow>& Window, const FPointerEvent& Event) override;
-		virtual void OnMouseWheel(const TSharedRef<FGenericWindow>& Window, const FPointerEvent& Event) override;
-		virtual void OnMouseLeave(const TSharedRef<FGenericWindow>& Window) override;
-		virtual void OnKeyDown(const FKeyEvent& Event) override;
-		virtual void OnKeyUp(const FKeyEvent& Event) override;
-		virtual void OnKeyChar(const FCharacterEvent& Event) override;
-		virtual void OnComposition(const FString& Text, int32 CaretPosition) override;
-		virtual void OnSizeChanged(const TSharedRef<FGenericWindow>& Window, FIntPoint Size) override;
-		virtual void OnScaleChanged(const TSharedRef<FGenericWindow>& Window, float Scale) override;
-		virtual void OnActivationChanged(const TSharedRef<FGenericWindow>& Window, bool bActive) override;
 		virtual void OnCloseRequested(const TSharedRef<FGenericWindow>& Window) override;
 		virtual void OnExposed(const TSharedRef<FGenericWindow>& Window) override;
 		virtual void OnQuitRequested() override;
 
 	private:
-		TSharedPtr<SWindow> FindWindow(const FGenericWindow& PlatformWindow) const;
-
 		FEngineLoop& Loop;
 	};
 }

@@ -7,7 +7,7 @@ class SWindow;
 namespace Host
 {
 	/** Brings what happens to the windows of the system to the Slate application, which must exist. */
-	class FSlateEventForwarder final : public FDesktopEventHandler
+	class FSlateEventForwarder : public FDesktopEventHandler
 	{
 	public:
 		virtual void OnMouseMove(const TSharedRef<FGenericWindow>& Window, const FPointerEvent& Event) override;
