@@ -19,7 +19,7 @@ namespace
 	};
 
 	/** Shows a screen of the gallery in a style and at a scale. */
-	class FGalleryPictureTest : public Host::FEngineTest, public testing::WithParamInterface<FGalleryCase>
+	class FGalleryPictureBase : public Host::FEngineTest
 	{
 	protected:
 		static void UseStyle(const TCHAR* Name)
@@ -54,6 +54,10 @@ namespace
 			UseWindow(FVector2D(800.0, 600.0), 1.0f);
 			Host::FEngineTest::TearDown();
 		}
+	};
+
+	class FGalleryPictureTest : public FGalleryPictureBase, public testing::WithParamInterface<FGalleryCase>
+	{
 	};
 
 	TEST_P(FGalleryPictureTest, LooksAsItWasApproved)
@@ -129,5 +133,68 @@ namespace
 		[](const testing::TestParamInfo<FGalleryCase>& Info)
 		{
 			return Host::ToStd(FString(Info.param.Style));
+		});
+
+	struct FHandledCase
+	{
+		const TCHAR* Screen;
+		/** What the user's hands are on. */
+		const TCHAR* Locator;
+		const TCHAR* Style;
+	};
+
+	/** The other pages under the hands of a user, in a style. */
+	class FHandledPictureTest : public FGalleryPictureBase, public testing::WithParamInterface<FHandledCase>
+	{
+	protected:
+		/** Shows the page and gives the place of what is handled on it. */
+		FVector2D ShowPage()
+		{
+			UseStyle(GetParam().Style);
+			UseWindow(FVector2D(1280.0, 800.0), 1.0f);
+			ShowScreen(GetParam().Screen);
+			// A click of the test before is no half of a double click.
+			Driver.Wait(1.0);
+			return Driver.GetMiddle(*Driver.Find(GetParam().Locator));
+		}
+
+		void ExpectPictureOf(const TCHAR* State)
+		{
+			ExpectPicture(FString::Printf(TEXT("%s%s-%s-1x"), GetParam().Screen, State, GetParam().Style));
+		}
+	};
+
+	TEST_P(FHandledPictureTest, Hovered)
+	{
+		Driver.MoveTo(ShowPage());
+		// What moves under the pointer comes to rest.
+		Driver.Wait(0.3);
+		ExpectPictureOf(TEXT("Hovered"));
+	}
+
+	TEST_P(FHandledPictureTest, Pressed)
+	{
+		Driver.MoveTo(ShowPage());
+		Driver.Press();
+		Driver.Wait(0.3);
+		ExpectPictureOf(TEXT("Pressed"));
+		Driver.Release();
+	}
+
+	TEST_P(FHandledPictureTest, Selected)
+	{
+		Driver.ClickAt(ShowPage());
+		Driver.MoveTo(FVector2D(1000.0, 60.0));
+		Driver.Wait(0.3);
+		ExpectPictureOf(TEXT("Selected"));
+	}
+
+	INSTANTIATE_TEST_SUITE_P(Pages, FHandledPictureTest, testing::Values(
+		FHandledCase{ TEXT("Groups"), TEXT("AnyOne/C"), TEXT("UIStyle_Hx_Light") }, FHandledCase{ TEXT("Groups"), TEXT("AnyOne/C"), TEXT("UIStyle_Hx_Dark") },
+		FHandledCase{ TEXT("Tiles"), TEXT("Loft/SelectableButton"), TEXT("UIStyle_Hx_Light") }, FHandledCase{ TEXT("Tiles"), TEXT("Loft/SelectableButton"), TEXT("UIStyle_Hx_Dark") },
+		FHandledCase{ TEXT("Fields"), TEXT("City/Field"), TEXT("UIStyle_Hx_Light") }, FHandledCase{ TEXT("Fields"), TEXT("City/Field"), TEXT("UIStyle_Hx_Dark") }),
+		[](const testing::TestParamInfo<FHandledCase>& Info)
+		{
+			return Host::ToStd(FString::Printf(TEXT("%s_%s"), Info.param.Screen, Info.param.Style));
 		});
 }
