@@ -2,6 +2,7 @@
 
 #include "Blueprint/UserWidget.h"
 #include "Blueprint/WidgetTree.h"
+#include "BindingTestWidget.h"
 #include "Components/Border.h"
 #include "Components/CheckBox.h"
 #include "Components/ComboBoxString.h"
@@ -213,6 +214,30 @@ namespace
 		UClass* Derived = Load(TEXT("Derived"), R"({ "Parent": "/Blueprints/Base.Base" })");
 		ASSERT_TRUE(Derived);
 		EXPECT_NE(GetTextOf(*Show(Derived), TEXT("Label")), "(none)");
+	}
+
+	TEST_F(FWidgetBlueprintTest, GraphCallsTheNativeFunctionThatItsOwnTookThePlaceOf)
+	{
+		UClass* Class = Load(TEXT("SuperNative"), R"({ "Parent": "/Script/BlueprintTestTypes.BindingTestWidget", "Root": { "Class": "Button", "Name": "Action" } })",
+			"function Decide(self, Value) return Super.Decide(self, Value) + 1 end");
+		EXPECT_EQ(CastChecked<UBindingTestWidget>(Show(Class))->Decide(20), 41) << "doubled by the parent, then one more";
+	}
+
+	TEST_F(FWidgetBlueprintTest, GraphCallsTheGraphOfItsParent)
+	{
+		Load(TEXT("SuperBase"), OneText, "function Construct(self) self.Label:SetText('base') end");
+		UClass* Derived = Load(TEXT("SuperDerived"), R"({ "Parent": "/Blueprints/SuperBase.SuperBase" })",
+			"function Construct(self) Super.Construct(self) self.Label:SetText(self.Label:GetText() .. ' and derived') end");
+		UClass* Further = Load(TEXT("SuperFurther"), R"({ "Parent": "/Blueprints/SuperDerived.SuperDerived" })",
+			"function Construct(self) Super.Construct(self) self.Label:SetText(self.Label:GetText() .. ' and further') end");
+		EXPECT_EQ(GetTextOf(*Show(Derived), TEXT("Label")), "base and derived");
+		EXPECT_EQ(GetTextOf(*Show(Further), TEXT("Label")), "base and derived and further");
+	}
+
+	TEST_F(FWidgetBlueprintTest, FunctionThatTheParentLacksIsAnErrorInTheScript)
+	{
+		const Host::FExpectedLog Error(TEXT("the parent UserWidget has no function 'Consturct'"));
+		Show(Load(TEXT("SuperTypo"), OneText, "function Construct(self) Super.Consturct(self) end"));
 	}
 
 	TEST_F(FWidgetBlueprintTest, NoScriptKeepsAScreenAlive)

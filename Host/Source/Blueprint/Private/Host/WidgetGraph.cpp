@@ -7,6 +7,7 @@
 #include "Lua/LuaApi.h"
 #include "Lua/LuaFunctionCall.h"
 #include "Lua/LuaMachine.h"
+#include "Lua/LuaSuper.h"
 #include "Lua/LuaValue.h"
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
@@ -74,6 +75,8 @@ namespace Host
 				lua_pop(State, 1);
 			}
 		}
+		PushLuaSuper(State, *Class.GetSuperClass());
+		lua_setfield(State, Environment, "Super");
 		lua_pop(State, 1);
 	}
 }
