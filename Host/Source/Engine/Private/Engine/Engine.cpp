@@ -4,8 +4,15 @@
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
 #include "GameFramework/GameUserSettings.h"
+#include "HAL/IConsoleManager.h"
+#include "Host/RankedSet.h"
 
 UEngine* GEngine = nullptr;
+
+namespace
+{
+	TAutoConsoleVariable<float> MaxFramesPerSecond(TEXT("t.MaxFPS"), 0.0f, TEXT("Frames a second at most. 0: no limit."));
+}
 
 void UEngine::Init()
 {
@@ -49,4 +56,14 @@ void UEngine::Tick(float DeltaSeconds)
 	{
 		World->Tick(DeltaSeconds);
 	}
+}
+
+void UEngine::SetMaxFPS(float MaxFPS)
+{
+	Host::SetUnlessOutranked(*MaxFramesPerSecond, *FString::SanitizeFloat(FMath::Max(MaxFPS, 0.0f)), ECVF_SetByGameSetting);
+}
+
+float UEngine::GetMaxFPS() const
+{
+	return FMath::Max(MaxFramesPerSecond.GetValueOnGameThread(), 0.0f);
 }

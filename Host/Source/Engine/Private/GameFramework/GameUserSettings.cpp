@@ -86,7 +86,16 @@ void UGameUserSettings::ApplyNonResolutionSettings()
 	{
 		Host::SetUnlessOutranked(*VSync, bUseVSync ? TEXT("1") : TEXT("0"), ECVF_SetByGameSetting);
 	}
+	if (GEngine)
+	{
+		GEngine->SetMaxFPS(GetEffectiveFrameRateLimit());
+	}
 	Scalability::SetQualityLevels(ScalabilityQuality);
+}
+
+float UGameUserSettings::GetEffectiveFrameRateLimit()
+{
+	return FrameRateLimit;
 }
 
 void UGameUserSettings::LoadSettings(bool bForceReload)
@@ -115,6 +124,7 @@ void UGameUserSettings::SetToDefaults()
 	SetFullscreenMode(GetDefaultWindowMode());
 	ConfirmVideoMode();
 	bUseVSync = false;
+	FrameRateLimit = 0.0f;
 	AudioQualityLevel = 0;
 	ScalabilityQuality = Scalability::FQualityLevels();
 }
@@ -130,6 +140,10 @@ void UGameUserSettings::ResetToCurrentSettings()
 	{
 		bUseVSync = VSync->GetBool();
 	}
+	if (GEngine)
+	{
+		FrameRateLimit = GEngine->GetMaxFPS();
+	}
 	ScalabilityQuality = Scalability::GetQualityLevels();
 }
 
@@ -142,6 +156,7 @@ void UGameUserSettings::ValidateSettings()
 	ValidateNumber(TEXT("LastUserConfirmedResolutionSizeY"), LastUserConfirmedResolutionSizeY, 1, LargestSide, Default.Y);
 	ValidateNumber(TEXT("FullscreenMode"), FullscreenMode, EWindowMode::Fullscreen, EWindowMode::Windowed, EWindowMode::Windowed);
 	ValidateNumber(TEXT("LastConfirmedFullscreenMode"), LastConfirmedFullscreenMode, EWindowMode::Fullscreen, EWindowMode::Windowed, EWindowMode::Windowed);
+	ValidateNumber(TEXT("PreferredFullscreenMode"), PreferredFullscreenMode, EWindowMode::Fullscreen, EWindowMode::WindowedFullscreen, EWindowMode::WindowedFullscreen);
 	ValidateNumber(TEXT("AudioQualityLevel"), AudioQualityLevel, 0, MAX_int32, 0);
 	ScalabilityQuality.Clamp();
 }
@@ -211,6 +226,10 @@ EWindowMode::Type UGameUserSettings::GetDefaultWindowMode()
 void UGameUserSettings::SetFullscreenMode(EWindowMode::Type InFullscreenMode)
 {
 	FullscreenMode = InFullscreenMode;
+	if (InFullscreenMode == EWindowMode::Fullscreen || InFullscreenMode == EWindowMode::WindowedFullscreen)
+	{
+		PreferredFullscreenMode = InFullscreenMode;
+	}
 }
 
 void UGameUserSettings::SetOverallScalabilityLevel(int32 Value)

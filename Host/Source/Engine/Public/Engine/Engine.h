@@ -42,6 +42,10 @@ public:
 	/** Advances the running game by a frame. */
 	virtual void Tick(float DeltaSeconds);
 
+	/** Frames a second at most; 0 for no limit. The console variable t.MaxFPS, which a setter of a higher rank than game settings keeps. */
+	virtual void SetMaxFPS(float MaxFPS);
+	float GetMaxFPS() const;
+
 	UGameInstance* GetGameInstance() const { return GameInstance; }
 
 	/** The engine subsystem of the class, or of one that derives from it; null when it was not created. */

@@ -34,7 +34,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void ApplyResolutionSettings(bool bCheckForCommandLineOverrides);
 
-	/** Sets the console variables for waiting on the screen and for quality. Does not save. */
+	/** Sets the console variables for waiting on the screen, for frames a second and for quality. Does not save. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	virtual void ApplyNonResolutionSettings();
 
@@ -79,24 +79,42 @@ public:
 	void RevertVideoMode();
 
 	/** In pixels; both at least 1 when validated. */
+	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void SetScreenResolution(FIntPoint Resolution);
+	UFUNCTION(BlueprintPure, Category = "Settings")
 	FIntPoint GetScreenResolution() const { return FIntPoint(ResolutionSizeX, ResolutionSizeY); }
+	UFUNCTION(BlueprintPure, Category = "Settings")
 	FIntPoint GetLastConfirmedScreenResolution() const { return FIntPoint(LastUserConfirmedResolutionSizeX, LastUserConfirmedResolutionSizeY); }
+	UFUNCTION(BlueprintPure, Category = "Settings")
 	FIntPoint GetDesktopResolution() const;
 	/** The window's size when it is known, else the desktop's. */
+	UFUNCTION(BlueprintCallable, Category = "Settings")
 	static FIntPoint GetDefaultResolution();
 	/** The window's mode when it is known, else windowed. */
+	UFUNCTION(BlueprintCallable, Category = "Settings")
 	static EWindowMode::Type GetDefaultWindowMode();
 
+	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void SetFullscreenMode(EWindowMode::Type InFullscreenMode);
+	UFUNCTION(BlueprintPure, Category = "Settings")
 	EWindowMode::Type GetFullscreenMode() const { return EWindowMode::ConvertIntToWindowMode(FullscreenMode); }
+	UFUNCTION(BlueprintPure, Category = "Settings")
 	EWindowMode::Type GetLastConfirmedFullscreenMode() const { return EWindowMode::ConvertIntToWindowMode(LastConfirmedFullscreenMode); }
+	/** Of the two modes that fill the screen, the one chosen last. */
+	UFUNCTION(BlueprintPure, Category = "Settings")
+	EWindowMode::Type GetPreferredFullscreenMode() const { return PreferredFullscreenMode == 0 ? EWindowMode::Fullscreen : EWindowMode::WindowedFullscreen; }
 
 	/** Whether pictures wait for the screen, so that none is shown torn. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void SetVSyncEnabled(bool bEnable) { bUseVSync = bEnable; }
 	UFUNCTION(BlueprintPure, Category = "Settings")
 	bool IsVSyncEnabled() const { return bUseVSync; }
+
+	/** Frames a second at most; 0, or less, for no limit. */
+	UFUNCTION(BlueprintCallable, Category = "Settings")
+	void SetFrameRateLimit(float NewLimit) { FrameRateLimit = NewLimit; }
+	UFUNCTION(BlueprintPure, Category = "Settings")
+	float GetFrameRateLimit() const { return FrameRateLimit; }
 
 	/** Index into the project's list of audio quality levels; below 0 is 0. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
@@ -177,6 +195,9 @@ public:
 	bool bUseVSync = false;
 
 protected:
+	/** What is applied of the limit: a program may know better in some places of its own. */
+	virtual float GetEffectiveFrameRateLimit();
+
 	UPROPERTY(Config)
 	int32 ResolutionSizeX = 0;
 	UPROPERTY(Config)
@@ -190,6 +211,11 @@ protected:
 	int32 FullscreenMode = EWindowMode::Windowed;
 	UPROPERTY(Config)
 	int32 LastConfirmedFullscreenMode = EWindowMode::Windowed;
+	/** 0 for full screen, 1 for a borderless window. */
+	UPROPERTY(Config)
+	int32 PreferredFullscreenMode = 1;
+	UPROPERTY(Config)
+	float FrameRateLimit = 0.0f;
 	UPROPERTY(Config)
 	int32 AudioQualityLevel = 0;
 

@@ -28,8 +28,10 @@ public:
 	static FString GetConsoleVariableStringValue(const FString& VariableName);
 
 	/** The resolutions of the main screen, each once, the smallest first. False, with an empty list, when it has none. */
+	UFUNCTION(BlueprintCallable, Category = "Rendering")
 	static bool GetSupportedFullscreenResolutions(TArray<FIntPoint>& Resolutions);
 
 	/** Usual sizes of windows that leave some of the main screen free, the smallest first. False, with an empty list, when none does. */
+	UFUNCTION(BlueprintCallable, Category = "Rendering")
 	static bool GetConvenientWindowedResolutions(TArray<FIntPoint>& Resolutions);
 };

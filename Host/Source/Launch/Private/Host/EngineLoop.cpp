@@ -163,8 +163,21 @@ namespace Host
 			{
 				Desktop->WaitForEvents(GetSecondsToWait(Start));
 			}
+			// An event ends the wait, but makes no more frames than the user allows.
+			if (const double Rest = Start + GetLeastFrameTime() - FPlatformTime::Seconds(); Rest > 0.0 && !bExitRequested)
+			{
+				FPlatformProcess::Sleep(static_cast<float>(Rest));
+			}
 		}
 		return ExitCode;
+	}
+
+	double FEngineLoop::GetLeastFrameTime()
+	{
+		// The end of the program must not wait for longer.
+		constexpr double LongestFrame = 1.0;
+		const double Limit = GEngine->GetMaxFPS();
+		return Limit > 0.0 ? FMath::Min(1.0 / Limit, LongestFrame) : 0.0;
 	}
 
 	double FEngineLoop::GetSecondsToWait(double FrameStart) const

@@ -80,6 +80,8 @@ namespace Host
 		double GetSecondsUntilNextFrame() const;
 		/** As GetSecondsUntilNextFrame, but not before the screen can show another frame than that of the given start. */
 		double GetSecondsToWait(double FrameStart) const;
+		/** Seconds that a frame lasts at least, by the user's limit of frames a second; 0 without one. */
+		static double GetLeastFrameTime();
 		void CollectGarbageIfDue();
 
 		FEngineLoopSettings Settings;

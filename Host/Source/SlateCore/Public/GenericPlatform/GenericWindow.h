@@ -1,18 +1,20 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "GenericWindow.generated.h"
 
 /** How a window takes the screen. */
+UENUM(BlueprintType)
 namespace EWindowMode
 {
-	enum Type
+	enum Type : int
 	{
 		/** The screen alone, in its own resolution. */
 		Fullscreen,
 		/** A borderless window as large as the screen. */
 		WindowedFullscreen,
 		Windowed,
-		NumWindowModes,
+		NumWindowModes UMETA(Hidden),
 	};
 
 	static inline Type ConvertIntToWindowMode(int32 InWindowMode)
