@@ -1,0 +1,94 @@
+-- The controls of a settings screen in the project's style.
+
+local Kit = Import("/HalvexPro/Gallery/Kit")
+
+local Models = Class("/Script/HalvexProUI.HalvexStyleModels")
+
+local None = { DrawAs = "NoDrawType" }
+
+-- The face of an HxButton takes its colour from the button, and is multiplied with these.
+function StyleBarButton(Button)
+	local function Face(Light)
+		return Kit.RoundedBrush({ R = Light, G = Light, B = Light, A = 1 }, 8)
+	end
+	Button.WidgetStyle = { Normal = Face(1), Hovered = Face(0.82), Pressed = Face(0.7), Disabled = Face(1) }
+end
+
+-- A box with a rounded outline, and a list that floats over the screen.
+function StyleComboBox(Box)
+	local Front = Kit.Color("Third")
+	local Text = Kit.Slate(Front)
+	local function Face(Fill, Outline)
+		return Kit.RoundedBrush(Kit.Color("Third", false, Fill), 8, Kit.Color("Third", false, Outline))
+	end
+	local function Row(Opacity)
+		return Kit.RoundedBrush(Kit.Color("Primary", false, Opacity), 6)
+	end
+	Box.WidgetStyle = {
+		ComboButtonStyle = {
+			ButtonStyle = {
+				Normal = Face(0.04, 0.16),
+				Hovered = Face(0.08, 0.32),
+				Pressed = Face(0.12, 0.32),
+				Disabled = Face(0.02, 0.08),
+				NormalForeground = Text,
+				HoveredForeground = Text,
+				PressedForeground = Text,
+				DisabledForeground = Text,
+			},
+			DownArrowImage = { TintColor = Text },
+			MenuBorderBrush = Kit.RoundedBrush(Kit.Color("Secondary"), 8, Kit.Color("Third", false, 0.24)),
+			MenuBorderPadding = Kit.Margin(4),
+		},
+		MenuRowPadding = Kit.Margin(8, 6),
+	}
+	Box.ItemStyle = {
+		ActiveBrush = Row(1),
+		ActiveHoveredBrush = Row(1),
+		EvenRowBackgroundBrush = None,
+		OddRowBackgroundBrush = None,
+		EvenRowBackgroundHoveredBrush = Row(0.16),
+		OddRowBackgroundHoveredBrush = Row(0.16),
+		TextColor = Text,
+		SelectedTextColor = Kit.Slate(Kit.Color("Primary", true)),
+	}
+	Box.ForegroundColor = Text
+	Box.Font = Models:GetFontInfoFromFontSchema("regular")
+end
+
+-- A switch: the box itself shows nothing, what is in it does.
+function StyleSwitch(Box)
+	local Style = { CheckBoxType = "ToggleButton", Padding = Kit.Margin(0) }
+	for _, State in ipairs({ "Unchecked", "Checked", "Undetermined", "Background" }) do
+		for _, Touch in ipairs({ "", "Hovered", "Pressed" }) do
+			Style[State .. Touch .. "Image"] = None
+		end
+	end
+	Box:SetWidgetStyle(Style)
+end
+
+function StyleSlider(Slider)
+	local Bar = Kit.RoundedBrush(Kit.Color("Third", false, 0.2), 2)
+	local function Thumb(Opacity)
+		local Brush = Kit.RoundedBrush(Kit.Color("Primary", false, Opacity), 8)
+		Brush.ImageSize = { X = 16, Y = 16 }
+		return Brush
+	end
+	Slider.WidgetStyle = {
+		NormalBarImage = Bar,
+		HoveredBarImage = Bar,
+		DisabledBarImage = Bar,
+		NormalThumbImage = Thumb(1),
+		HoveredThumbImage = Thumb(0.85),
+		DisabledThumbImage = Thumb(0.5),
+		BarThickness = 4,
+	}
+end
+
+function StyleCountBar(Bar)
+	Bar.WidgetStyle = {
+		BackgroundImage = Kit.RoundedBrush(Kit.Color("Third", false, 0.12), 2),
+		FillImage = Kit.RoundedBrush(Kit.Color("Primary"), 2),
+	}
+	Bar:SetFillColorAndOpacity({ R = 1, G = 1, B = 1, A = 1 })
+end
