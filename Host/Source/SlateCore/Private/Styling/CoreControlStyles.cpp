@@ -3,7 +3,6 @@
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateNoResource.h"
 #include "Brushes/SlateRoundedBoxBrush.h"
-#include "Styling/ComboBoxStyle.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateTypes.h"
 
