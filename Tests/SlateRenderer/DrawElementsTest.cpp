@@ -14,6 +14,7 @@
 #include "Host/Texture.h"
 #include "Layout/Clipping.h"
 #include "Layout/PaintGeometry.h"
+#include "Styling/CoreStyle.h"
 #include "UObject/Class.h"
 
 using namespace Host;
@@ -439,4 +440,90 @@ TEST_F(BrushPictures, RoundedBoxBrushShowsItsPictureWithinItsCorners)
 	EXPECT_EQ(Box.Kind, EDrawElementKind::Box);
 	EXPECT_EQ(Box.Radii.TopLeft, 6.0f);
 	EXPECT_EQ(Box.GetTexture(), PictureOfEverything.Get());
+}
+
+namespace
+{
+	/** What marks of check boxes and arrows of combo boxes are made of. */
+	class Drawings : public DrawElements
+	{
+	protected:
+		const FCheckBoxStyle& CheckBox = FCoreStyle::Get().GetWidgetStyle<FCheckBoxStyle>("Checkbox");
+		const FSlateBrush& Arrow = FCoreStyle::Get().GetWidgetStyle<FComboBoxStyle>("ComboBox").ComboButtonStyle.DownArrowImage;
+
+		void Make(const FSlateBrush& Brush, const FPaintGeometry& Geometry, const FLinearColor& Tint)
+		{
+			Elements.Reset();
+			FSlateDrawElement::MakeBox(List, 0, Geometry, &Brush, ESlateDrawEffect::None, Tint);
+		}
+
+		/** The colour of the mark on a fill. */
+		FColor GetMarkColour(const FLinearColor& Fill)
+		{
+			Make(CheckBox.CheckedImage, MakeGeometry(0.0f, 0.0f, 16.0f, 16.0f), Fill);
+			return Elements.Last().Colour;
+		}
+	};
+}
+
+TEST_F(Drawings, MarkLiesOverTheFillOfItsBox)
+{
+	for (const FSlateBrush* Brush : {&CheckBox.CheckedImage, &CheckBox.UndeterminedImage})
+	{
+		Make(*Brush, MakeGeometry(10.0f, 10.0f, 16.0f, 16.0f), Brush->TintColor.GetSpecifiedColor());
+		ASSERT_EQ(Elements.Num(), 2);
+		EXPECT_EQ(Elements[0].Kind, EDrawElementKind::Box);
+		ASSERT_EQ(Elements[1].Kind, EDrawElementKind::Lines);
+		EXPECT_EQ(Elements[1].Colour, FColor(255, 255, 255));
+		EXPECT_TRUE(Elements[0].Bounds.Contains(Elements[1].Bounds));
+	}
+	Make(CheckBox.UncheckedImage, MakeGeometry(10.0f, 10.0f, 16.0f, 16.0f), White);
+	EXPECT_EQ(Elements.Num(), 1);
+}
+
+TEST_F(Drawings, MarkStandsOutFromLightAndDarkFills)
+{
+	EXPECT_EQ(GetMarkColour(FLinearColor(0.1f, 0.1f, 0.1f)), FColor(255, 255, 255));
+	EXPECT_EQ(GetMarkColour(FLinearColor(0.0f, 0.2f, 1.0f)), FColor(255, 255, 255));
+	EXPECT_EQ(GetMarkColour(FLinearColor(0.9f, 0.9f, 0.9f)), FColor(0, 0, 0));
+	EXPECT_EQ(GetMarkColour(FLinearColor(0.1f, 0.1f, 0.1f, 0.5f)).A, 128);
+}
+
+TEST_F(Drawings, ArrowIsAStrokeInTheTint)
+{
+	Make(Arrow, MakeGeometry(0.0f, 0.0f, 10.0f, 10.0f), FLinearColor(1.0f, 0.0f, 0.0f));
+	ASSERT_EQ(Elements.Num(), 1);
+	ASSERT_EQ(Elements[0].Kind, EDrawElementKind::Lines);
+	EXPECT_EQ(Elements[0].Colour, FColor(255, 0, 0));
+	const FLinePoints& Lines = *Elements[0].GetLines();
+	ASSERT_EQ(Lines.Points.Num(), 3);
+	// It points down, and is as wide on both sides.
+	EXPECT_GT(Lines.Points[1].Y, Lines.Points[0].Y);
+	EXPECT_EQ(Lines.Points[0].Y, Lines.Points[2].Y);
+	EXPECT_FLOAT_EQ(Lines.Points[1].X - Lines.Points[0].X, Lines.Points[2].X - Lines.Points[1].X);
+}
+
+TEST_F(Drawings, StrokesGrowWithTheScaleAndKeepToTheirBox)
+{
+	for (const float Scale : {0.75f, 1.0f, 1.25f, 1.5f, 2.0f, 3.0f})
+	{
+		Make(Arrow, MakeGeometry(10.3f, 20.6f, 10.0f, 10.0f, Scale), White);
+		const float Left = std::floor(10.3f + 0.5f);
+		const float Side = std::floor(10.3f + 10.0f * Scale + 0.5f) - Left;
+		const FLinePoints& Lines = *Elements[0].GetLines();
+		EXPECT_NEAR(Lines.Thickness, 0.15f * Side, 0.15f) << Scale;
+		EXPECT_GE(Lines.Points[0].X - 0.5f * Lines.Thickness, Left) << Scale;
+		EXPECT_LE(Lines.Points[2].X + 0.5f * Lines.Thickness, Left + Side) << Scale;
+		EXPECT_FLOAT_EQ(Lines.Points[1].X, Left + 0.5f * Side) << Scale;
+	}
+}
+
+TEST_F(Drawings, TurnWithTheirGeometry)
+{
+	Make(Arrow, MakeTurnedGeometry(100.0f, 100.0f, 10.0f, 10.0f, static_cast<float>(UE_PI) * 0.5f), White);
+	const FLinePoints& Lines = *Elements[0].GetLines();
+	// A quarter turn clockwise: it points to the left.
+	EXPECT_LT(Lines.Points[1].X, Lines.Points[0].X);
+	EXPECT_NEAR(Lines.Points[0].X, Lines.Points[2].X, 0.001f);
+	EXPECT_NEAR(Lines.Thickness, 1.5f, 0.01f);
 }

@@ -2,9 +2,14 @@
 
 #include "ComboBoxListener.h"
 #include "Components/ComboBoxString.h"
+#include "Components/SizeBox.h"
 #include "Components/VerticalBox.h"
+#include "Components/VerticalBoxSlot.h"
 #include "Engine/Engine.h"
 #include "Engine/GameViewportClient.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Widgets/SWindow.h"
+#include "Widgets/Text/STextBlock.h"
 
 namespace
 {
@@ -36,6 +41,27 @@ namespace
 		{
 			GEngine->GameViewport->AddViewportWidgetContent(Box->TakeWidget());
 			Loop.RunUntilIdle();
+		}
+
+		/** What shows a text in the window, boxes before lists. */
+		TArray<TSharedRef<SWidget>> FindTexts(const FString& Text)
+		{
+			TArray<TSharedRef<SWidget>> Found;
+			AddTexts(FSlateApplication::Get().GetTopLevelWindows()[0], Text, Found);
+			return Found;
+		}
+
+		static void AddTexts(const TSharedRef<SWidget>& Widget, const FString& Text, TArray<TSharedRef<SWidget>>& Found)
+		{
+			if (Widget->GetType() == FName("STextBlock") && StaticCastSharedRef<STextBlock>(Widget)->GetText().ToString() == Text)
+			{
+				Found.Add(Widget);
+			}
+			FChildren& Children = *Widget->GetChildren();
+			for (int32 Index = 0; Index < Children.Num(); ++Index)
+			{
+				AddTexts(Children.GetChildAt(Index), Text, Found);
+			}
 		}
 
 		std::string TakeEvents()
@@ -114,5 +140,34 @@ namespace
 		Driver.SingleClickAt(Middle + FVector2D(0.0, Height * 0.9));
 		EXPECT_EQ(TakeEvents(), "Opening OnMouseClick:Low");
 		EXPECT_FALSE(Combo->IsOpen());
+	}
+
+	TEST_F(FComboBoxStringTest, RowsBeginWhereTheTextOfTheBoxDoes)
+	{
+		Combo->SetSelectedIndex(0);
+		Show();
+		const float Boxed = FindTexts(TEXT("Low"))[0]->GetCachedGeometry().GetAbsolutePosition().X;
+		Driver.SingleClickAt(Driver.GetMiddle(*Combo));
+		EXPECT_EQ(FindTexts(TEXT("Medium"))[0]->GetCachedGeometry().GetAbsolutePosition().X, Boxed);
+	}
+
+	TEST_F(FComboBoxStringTest, TextThatIsTooLongStaysWithinTheBox)
+	{
+		Combo->AddOption(TEXT("A text that is far too long for it"));
+		USizeBox* Narrow = NewObject<USizeBox>(Box);
+		Narrow->SetWidthOverride(80.0f);
+		Narrow->AddChild(Combo);
+		Cast<UVerticalBoxSlot>(Box->AddChild(Narrow))->SetHorizontalAlignment(HAlign_Left);
+		Combo->SetSelectedIndex(3);
+		Show();
+		Host::FPicture Picture;
+		ASSERT_TRUE(Loop.TakePicture(Picture));
+		const int32 Row = FMath::RoundToInt32(Driver.GetMiddle(*Combo).Y);
+		TSet<FColor> Beside;
+		for (int32 X = 80; X < 300; ++X)
+		{
+			Beside.Add(Picture.Pixels[Row * Picture.Size.X + X]);
+		}
+		EXPECT_EQ(Beside.Num(), 1);
 	}
 }

@@ -2,8 +2,10 @@
 
 #include "Host/BrushTextures.h"
 #include "Host/Texture.h"
+#include "Layout/PaintGeometry.h"
 #include "Rendering/DrawElements.h"
 #include "Rendering/ElementGeometry.h"
+#include "Styling/LineDrawings.h"
 #include "Styling/SlateBrush.h"
 
 using namespace Host;
@@ -198,6 +200,31 @@ namespace
 		}
 	}
 
+	/** A drawing over the same pixels that a box of the geometry takes, so that it lies in the middle of it. */
+	void AppendDrawing(const FBoxArguments& Arguments, const FLineDrawing& Drawing, const FLinearColor& Colour)
+	{
+		FDrawElement Box;
+		Arguments.Geometry.Place(Box, Arguments.ShouldSnap(), true);
+		const FSlateRenderTransform ToPixel(FMatrix2x2f(Box.LocalToPixel.Xx, Box.LocalToPixel.Xy, Box.LocalToPixel.Yx, Box.LocalToPixel.Yy),
+			FVector2f(Box.LocalToPixel.X, Box.LocalToPixel.Y));
+		TArray<FVector2f> Points;
+		Points.Reserve(Drawing.Points.Num());
+		for (const FVector2f& Point : Drawing.Points)
+		{
+			Points.Add(Point * Box.LocalSize);
+		}
+		FSlateDrawElement::MakeLines(Arguments.Elements, Arguments.Layer, FPaintGeometry(FSlateLayoutTransform(), ToPixel, Box.LocalSize, true), MoveTemp(Points),
+			Arguments.Effects, Colour, true, Drawing.Thickness * FMath::Min(Box.LocalSize.X, Box.LocalSize.Y));
+	}
+
+	/** White, or black on what is too light for it; as opaque as the fill. */
+	FLinearColor ColourUpon(const FLinearColor& Fill)
+	{
+		constexpr float LightFromHere = 0.45f;
+		const float Level = 0.2126f * Fill.R + 0.7152f * Fill.G + 0.0722f * Fill.B > LightFromHere ? 0.0f : 1.0f;
+		return FLinearColor(Level, Level, Level, Fill.A);
+	}
+
 	bool HasMargin(const FMargin& Margin)
 	{
 		return Margin.Left > 0.0f || Margin.Top > 0.0f || Margin.Right > 0.0f || Margin.Bottom > 0.0f;
@@ -217,9 +244,18 @@ void FSlateDrawElement::MakeBox(FSlateWindowElementList& ElementList, uint32 InL
 		return;
 	}
 	const FBoxArguments Arguments{ ElementList, Geometry, *InBrush, InTint, InDrawEffects, InLayer, FBrushTextures::Find(*InBrush) };
+	const FLineDrawing* Drawing = FLineDrawing::Find(*InBrush);
 	if (InBrush->DrawAs == ESlateBrushDrawType::RoundedBox)
 	{
 		AppendRoundedBox(Arguments);
+		if (Drawing)
+		{
+			AppendDrawing(Arguments, *Drawing, ColourUpon(InTint));
+		}
+	}
+	else if (Drawing)
+	{
+		AppendDrawing(Arguments, *Drawing, InTint);
 	}
 	else if (!Arguments.Texture.IsValid())
 	{

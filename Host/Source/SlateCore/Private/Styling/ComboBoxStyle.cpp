@@ -1,4 +1,4 @@
-#include "Styling/ComboBoxStyle.h"
+#include "Styling/SlateTypes.h"
 
 const FName FTableRowStyle::TypeName(TEXT("FTableRowStyle"));
 

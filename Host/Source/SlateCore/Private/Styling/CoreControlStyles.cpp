@@ -3,7 +3,7 @@
 #include "Brushes/SlateColorBrush.h"
 #include "Brushes/SlateNoResource.h"
 #include "Brushes/SlateRoundedBoxBrush.h"
-#include "Styling/ComboBoxStyle.h"
+#include "Styling/LineDrawings.h"
 #include "Styling/SlateStyle.h"
 #include "Styling/SlateTypes.h"
 
@@ -45,12 +45,12 @@ namespace Host
 				.SetUncheckedImage(CheckImage(Grey(15), Grey(80)))
 				.SetUncheckedHoveredImage(CheckImage(Grey(15), Grey(128)))
 				.SetUncheckedPressedImage(CheckImage(Grey(26), Grey(128)))
-				.SetCheckedImage(CheckImage(Accent(), Accent()))
-				.SetCheckedHoveredImage(CheckImage(BrightAccent(), BrightAccent()))
-				.SetCheckedPressedImage(CheckImage(Accent(), Grey(192)))
-				.SetUndeterminedImage(CheckImage(Grey(80), Grey(128)))
-				.SetUndeterminedHoveredImage(CheckImage(Grey(96), Grey(160)))
-				.SetUndeterminedPressedImage(CheckImage(Grey(70), Grey(160)))
+				.SetCheckedImage(FLineDrawingBrush("CheckMark", CheckImage(Accent(), Accent())))
+				.SetCheckedHoveredImage(FLineDrawingBrush("CheckMark", CheckImage(BrightAccent(), BrightAccent())))
+				.SetCheckedPressedImage(FLineDrawingBrush("CheckMark", CheckImage(Accent(), Grey(192))))
+				.SetUndeterminedImage(FLineDrawingBrush("Dash", CheckImage(Grey(80), Grey(128))))
+				.SetUndeterminedHoveredImage(FLineDrawingBrush("Dash", CheckImage(Grey(96), Grey(160))))
+				.SetUndeterminedPressedImage(FLineDrawingBrush("Dash", CheckImage(Grey(70), Grey(160))))
 				.SetPadding(FMargin(4.0f, 0.0f, 0.0f, 0.0f))
 				.SetBackgroundImage(FSlateNoResource())
 				.SetBackgroundHoveredImage(FSlateNoResource())
@@ -140,11 +140,13 @@ namespace Host
 
 			Set.Set("ComboBox", FComboBoxStyle()
 				.SetComboButtonStyle(FComboButtonStyle()
-					.SetButtonStyle(Set.GetWidgetStyle<FButtonStyle>("Button"))
-					.SetDownArrowImage(Sized(FSlateRoundedBoxBrush(Grey(192), 3.0f), 6.0f, 6.0f))
+					// White, as it is faded with all the rest of a disabled box, and is to be read on light ground too.
+					.SetButtonStyle(FButtonStyle(Set.GetWidgetStyle<FButtonStyle>("Button")).SetDisabledForeground(FLinearColor::White))
+					.SetDownArrowImage(FLineDrawingBrush("ChevronDown", FLinearColor::White, FVector2f(10.0f, 10.0f)))
 					.SetMenuBorderBrush(*Set.GetBrush("Menu.Background"))
 					.SetMenuBorderPadding(FMargin(3.0f)))
-				.SetMenuRowPadding(FMargin(8.0f, 2.0f)));
+				// Within the frame, texts of rows begin where the text of the box does.
+				.SetMenuRowPadding(FMargin(13.0f, 3.0f)));
 		}
 	}
 

@@ -178,7 +178,7 @@ TSharedRef<SWidget> UComboBoxString::RebuildWidget()
 		.OnSelectionChanged(BIND_UOBJECT_DELEGATE(SComboBox<TSharedPtr<FString>>::FOnSelectionChanged, HandleSelectionChanged))
 		.OnComboBoxOpening(BIND_UOBJECT_DELEGATE(FSimpleDelegate, HandleOpening))
 		[
-			SAssignNew(MyText, STextBlock).Font(Font)
+			SAssignNew(MyText, STextBlock).Font(Font).OverflowPolicy(ETextOverflowPolicy::Ellipsis)
 		];
 	ShowSelection();
 	return MyComboBox.ToSharedRef();

@@ -4,7 +4,7 @@
 #include "Components/Widget.h"
 #include "Fonts/SlateFontInfo.h"
 #include "Layout/Margin.h"
-#include "Styling/ComboBoxStyle.h"
+#include "Styling/SlateTypes.h"
 #include "Types/SlateEnums.h"
 #include "ComboBoxString.generated.h"
 

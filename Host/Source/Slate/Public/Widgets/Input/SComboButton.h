@@ -3,7 +3,7 @@
 #include "CoreMinimal.h"
 #include "Framework/Application/IMenu.h"
 #include "Framework/SlateDelegates.h"
-#include "Styling/ComboBoxStyle.h"
+#include "Styling/SlateTypes.h"
 #include "Styling/CoreStyle.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
