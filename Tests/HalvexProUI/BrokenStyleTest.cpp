@@ -5,8 +5,8 @@
 #include "Engine/Engine.h"
 #include "Engine/Font.h"
 #include "Engine/GameViewportClient.h"
-#include "HalvexProUISettings.h"
 #include "HalvexUISubsystem.h"
+#include "ProjectStyle.h"
 #include "Style/HalvexUIStyleConfiguration.h"
 #include "TemporaryContent.h"
 
@@ -18,14 +18,8 @@ namespace
 	protected:
 		virtual void TearDown() override
 		{
-			UseStyle(TEXT("/HalvexPro/Widgets/UIStyle_Hx_Light.UIStyle_Hx_Light"));
+			UseProjectStyle(TEXT("/HalvexPro/Widgets/UIStyle_Hx_Light.UIStyle_Hx_Light"));
 			Host::FEngineTest::TearDown();
-		}
-
-		static void UseStyle(const TCHAR* Path)
-		{
-			GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = FSoftObjectPath(Path);
-			UHalvexUISubsystem::Get()->RefreshSettingsReferences();
 		}
 
 		/** Writes a style with the given properties, and uses it. */
@@ -33,7 +27,7 @@ namespace
 		{
 			const std::string Json = std::string("{ \"Class\": \"/Script/HalvexProUI.HalvexUIStyleConfiguration\", \"Properties\": {\n") + Properties + "\n} }";
 			Content.Write(*(FString(Name) + TEXT(".asset.json")), Json.c_str());
-			UseStyle(*FString::Printf(TEXT("/Styles/%s.%s"), Name, Name));
+			UseProjectStyle(*FString::Printf(TEXT("/Styles/%s.%s"), Name, Name));
 		}
 
 		static FString GetHex(const TCHAR* ColorID)
@@ -47,7 +41,7 @@ namespace
 	TEST_F(FBrokenStyleTest, MissingStyleIsOneLineHoweverOftenItIsAskedFor)
 	{
 		const Host::FExpectedLog Missing(TEXT("/Styles/Nowhere.Nowhere': there is no file for /Styles/Nowhere"));
-		UseStyle(TEXT("/Styles/Nowhere.Nowhere"));
+		UseProjectStyle(TEXT("/Styles/Nowhere.Nowhere"));
 		UHalvexUISubsystem::Get()->RefreshSettingsReferences();
 		EXPECT_TRUE(UHalvexUISubsystem::Get()->GetAllColorStyleOptions().IsEmpty());
 	}
@@ -56,7 +50,7 @@ namespace
 	{
 		Content.Write(TEXT("Broken.asset.json"), "{\n\t\"Class\": \"/Script/HalvexProUI.HalvexUIStyleConfiguration\"\n\t\"Properties\": {}\n}");
 		const Host::FExpectedLog Broken(TEXT("/Broken.asset.json:3:"));
-		UseStyle(TEXT("/Styles/Broken.Broken"));
+		UseProjectStyle(TEXT("/Styles/Broken.Broken"));
 		UHalvexUISubsystem::Get()->RefreshSettingsReferences();
 		EXPECT_TRUE(UHalvexUISubsystem::Get()->GetAllColorStyleOptions().IsEmpty());
 	}
@@ -64,14 +58,14 @@ namespace
 	TEST_F(FBrokenStyleTest, StyleOutsideOfItsMountIsOneLine)
 	{
 		const Host::FExpectedLog Refused(TEXT("/Styles/../Secret.Secret"));
-		UseStyle(TEXT("/Styles/../Secret.Secret"));
+		UseProjectStyle(TEXT("/Styles/../Secret.Secret"));
 		EXPECT_TRUE(UHalvexUISubsystem::Get()->GetAllColorStyleOptions().IsEmpty());
 	}
 
 	TEST_F(FBrokenStyleTest, AssetOfAnotherClassIsNotLogged)
 	{
 		Content.Write(TEXT("Font.asset.json"), R"({ "Class": "/Script/Engine.Font" })");
-		UseStyle(TEXT("/Styles/Font.Font"));
+		UseProjectStyle(TEXT("/Styles/Font.Font"));
 		EXPECT_TRUE(UHalvexUISubsystem::Get()->GetAllColorStyleOptions().IsEmpty());
 	}
 

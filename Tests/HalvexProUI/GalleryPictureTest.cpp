@@ -4,9 +4,7 @@
 #include "Engine/Engine.h"
 #include "Engine/GameInstance.h"
 #include "GoldenPicture.h"
-#include "HalvexProUISettings.h"
-#include "HalvexUISubsystem.h"
-#include "Style/HalvexUIStyleConfiguration.h"
+#include "ProjectStyle.h"
 #include "Widgets/SWindow.h"
 
 namespace
@@ -22,12 +20,6 @@ namespace
 	class FGalleryPictureBase : public Host::FEngineTest
 	{
 	protected:
-		static void UseStyle(const TCHAR* Name)
-		{
-			GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = FSoftObjectPath(FString::Printf(TEXT("/HalvexPro/Widgets/%s.%s"), Name, Name));
-			UHalvexUISubsystem::Get()->RefreshSettingsReferences();
-		}
-
 		void UseWindow(FVector2D Size, float Scale)
 		{
 			Loop.GetWindow()->Resize(Size);
@@ -50,7 +42,7 @@ namespace
 
 		virtual void TearDown() override
 		{
-			UseStyle(TEXT("UIStyle_Hx_Light"));
+			UseShippedStyle(TEXT("UIStyle_Hx_Light"));
 			UseWindow(FVector2D(800.0, 600.0), 1.0f);
 			Host::FEngineTest::TearDown();
 		}
@@ -63,7 +55,7 @@ namespace
 	TEST_P(FGalleryPictureTest, LooksAsItWasApproved)
 	{
 		const FGalleryCase& Case = GetParam();
-		UseStyle(Case.Style);
+		UseShippedStyle(Case.Style);
 		UseWindow(FVector2D(1280.0, 800.0) * Case.Scale, static_cast<float>(Case.Scale));
 		ShowScreen(Case.Screen);
 		ExpectPicture(FString::Printf(TEXT("%s-%s-%dx"), Case.Screen, Case.Style, Case.Scale));
@@ -90,7 +82,7 @@ namespace
 	protected:
 		void ShowButtons()
 		{
-			UseStyle(GetParam().Style);
+			UseShippedStyle(GetParam().Style);
 			UseWindow(FVector2D(1280.0, 800.0), 1.0f);
 			ShowScreen(GetParam().Screen);
 		}
@@ -150,7 +142,7 @@ namespace
 		/** Shows the page and gives the place of what is handled on it. */
 		FVector2D ShowPage()
 		{
-			UseStyle(GetParam().Style);
+			UseShippedStyle(GetParam().Style);
 			UseWindow(FVector2D(1280.0, 800.0), 1.0f);
 			ShowScreen(GetParam().Screen);
 			// A click of the test before is no half of a double click.

@@ -1,9 +1,9 @@
 #include "KitTest.h"
 
-#include "HalvexProUISettings.h"
 #include "HalvexUISubsystem.h"
 #include "Host/PropertyEdit.h"
 #include "KitReflection.h"
+#include "ProjectStyle.h"
 #include "Widgets/HxButton.h"
 #include "Widgets/HxFontIcon.h"
 
@@ -16,14 +16,8 @@ namespace
 	protected:
 		virtual void TearDown() override
 		{
-			UseStyle(TEXT("/HalvexPro/Widgets/UIStyle_Hx_Light.UIStyle_Hx_Light"));
+			UseProjectStyle(TEXT("/HalvexPro/Widgets/UIStyle_Hx_Light.UIStyle_Hx_Light"));
 			FKitTest::TearDown();
-		}
-
-		static void UseStyle(const TCHAR* Path)
-		{
-			GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = FSoftObjectPath(Path);
-			UHalvexUISubsystem::Get()->RefreshSettingsReferences();
 		}
 
 		/** An icon whose three looks differ in glyph, typeface and colour. */
@@ -233,7 +227,7 @@ namespace
 
 	TEST_F(FHxFontIconTest, WithoutAConfigurationItIsDrawnAsWords)
 	{
-		UseStyle(TEXT(""));
+		UseProjectStyle(TEXT(""));
 		MakeIcon();
 		Show();
 		EXPECT_EQ(Host::ToStd(Icon->GetText()), "NO TABLE UNICODE");

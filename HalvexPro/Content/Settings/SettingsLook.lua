@@ -35,6 +35,8 @@ function StyleComboBox(Box)
 				HoveredForeground = Text,
 				PressedForeground = Text,
 				DisabledForeground = Text,
+				NormalPadding = Kit.Margin(0),
+				PressedPadding = Kit.Margin(0),
 			},
 			DownArrowImage = { TintColor = Text },
 			MenuBorderBrush = Kit.RoundedBrush(Kit.Color("Secondary"), 8, Kit.Color("Third", false, 0.24)),
@@ -83,6 +85,19 @@ function StyleSlider(Slider)
 		DisabledThumbImage = Thumb(0.5),
 		BarThickness = 4,
 	}
+end
+
+function StyleScrollBox(Box)
+	local function Thumb(Opacity)
+		local Brush = Kit.RoundedBrush(Kit.Color("Third", false, Opacity), 4)
+		Brush.ImageSize = { X = 8, Y = 8 }
+		return Brush
+	end
+	local Style = { NormalThumbImage = Thumb(0.24), HoveredThumbImage = Thumb(0.4), DraggedThumbImage = Thumb(0.5), Thickness = 8 }
+	for _, Part in ipairs({ "HorizontalBackgroundImage", "VerticalBackgroundImage", "VerticalTopSlotImage", "VerticalBottomSlotImage", "HorizontalTopSlotImage", "HorizontalBottomSlotImage" }) do
+		Style[Part] = None
+	end
+	Box.WidgetBarStyle = Style
 end
 
 function StyleCountBar(Bar)

@@ -124,6 +124,7 @@ function PreConstruct(self)
 	for _, Button in ipairs({ self.Discard, self.Btn_ApplyConfirmation, self.Keep, self.RevertNow }) do
 		Look.StyleBarButton(Button)
 	end
+	Look.StyleScrollBox(self.Scroll)
 	Look.StyleCountBar(self.CountBar)
 	ShowBars(self)
 end

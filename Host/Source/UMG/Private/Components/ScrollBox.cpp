@@ -1,12 +1,14 @@
 #include "Components/ScrollBox.h"
 
 #include "Components/ScrollBoxSlot.h"
+#include "Styling/CoreStyle.h"
 #include "Widgets/Layout/SScrollBox.h"
 
 #define LOCTEXT_NAMESPACE "UMG"
 
 UScrollBox::UScrollBox(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
+	, WidgetBarStyle(FCoreStyle::Get().GetWidgetStyle<FScrollBarStyle>("ScrollBar"))
 {
 }
 
@@ -71,6 +73,15 @@ void UScrollBox::SetScrollbarPadding(const FMargin& NewScrollbarPadding)
 	}
 }
 
+void UScrollBox::SetWidgetBarStyle(const FScrollBarStyle& NewWidgetBarStyle)
+{
+	WidgetBarStyle = NewWidgetBarStyle;
+	if (MyScrollBox)
+	{
+		MyScrollBox->InvalidateScrollBarStyle();
+	}
+}
+
 void UScrollBox::SlateHandleUserScrolled(float CurrentOffset)
 {
 	OnUserScrolled.Broadcast(CurrentOffset);
@@ -89,6 +100,7 @@ void UScrollBox::SynchronizeProperties()
 	{
 		MyScrollBox->SetOrientation(Orientation.GetValue());
 		MyScrollBox->SetScrollBarPadding(ScrollbarPadding);
+		MyScrollBox->InvalidateScrollBarStyle();
 	}
 }
 
@@ -125,6 +137,7 @@ TSharedRef<SWidget> UScrollBox::RebuildWidget()
 	MyScrollBox = SNew(SScrollBox)
 		.Orientation(Orientation.GetValue())
 		.ScrollBarPadding(ScrollbarPadding)
+		.ScrollBarStyle(&WidgetBarStyle)
 		.OnUserScrolled(BIND_UOBJECT_DELEGATE(FOnUserScrolled, SlateHandleUserScrolled));
 	for (UPanelSlot* PanelSlot : Slots)
 	{

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Components/PanelWidget.h"
+#include "Styling/SlateTypes.h"
 #include "Types/SlateEnums.h"
 #include "ScrollBox.generated.h"
 
@@ -29,9 +30,18 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Scroll")
 	FMargin ScrollbarPadding = FMargin(2.0f);
 
+	/** How the scroll bar looks. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Style", meta = (DisplayName = "Bar Style"))
+	FScrollBarStyle WidgetBarStyle;
+
 	UMG_API UScrollBox(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
 	FMargin GetScrollbarPadding() const { return ScrollbarPadding; }
+
+	const FScrollBarStyle& GetWidgetBarStyle() const { return WidgetBarStyle; }
+
+	/** Replaces the look of the scroll bar. */
+	UMG_API void SetWidgetBarStyle(const FScrollBarStyle& NewWidgetBarStyle);
 
 	UFUNCTION(BlueprintCallable, Category = "Scroll")
 	UMG_API void SetScrollbarPadding(const FMargin& NewScrollbarPadding);
