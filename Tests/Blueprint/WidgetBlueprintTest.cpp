@@ -208,6 +208,17 @@ namespace
 		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "OnKeyPress High");
 	}
 
+	TEST_F(FWidgetBlueprintTest, ComboBoxesHaveTheirOptionsBeforeTheGraphStarts)
+	{
+		UClass* Class = Load(TEXT("Options"), R"({ "Root": { "Class": "VerticalBox", "Children": [
+			{ "Class": "ComboBoxString", "Name": "Quality", "Properties": { "DefaultOptions": ["Low", "High"], "SelectedOption": "High" } },
+			{ "Class": "TextBlock", "Name": "Label" } ] } })",
+			"function OnInitialized(self) local q = self.Quality self.Label:SetText(q:GetOptionCount() .. q:GetOptionAtIndex(0) .. q:GetSelectedIndex()) q:SetSelectedIndex(0) end");
+		UUserWidget* Widget = Show(Class);
+		EXPECT_EQ(GetTextOf(*Widget, TEXT("Label")), "2Low1");
+		EXPECT_EQ(Cast<UComboBoxString>(Widget->GetWidgetFromName(TEXT("Quality")))->GetSelectedIndex(), 0);
+	}
+
 	TEST_F(FWidgetBlueprintTest, BlueprintsDeriveFromBlueprints)
 	{
 		Load(TEXT("Base"), OneText, "function Construct(self) self.Label:SetText(self:Say()) end function Say(self) return 'base' end");

@@ -183,14 +183,13 @@ TEST_F(EditableTextMenuTest, TextThatDoesNotAllowItLeavesTheButtonToOthers)
 	EXPECT_FALSE(App().AnyMenusVisible());
 }
 
-TEST_F(EditableTextMenuTest, TextMayGoWhileItIsOpen)
+TEST_F(EditableTextMenuTest, GoesInTheNextFrameWhenItsTextGoes)
 {
 	ShowFocused(Arguments(TEXT("abc")));
 	OpenAt(5.0f);
 	Text.Reset();
 	Window->SetContent(SNew(SBox));
+	Click(FindEntry(TEXT("Select All")).ToSharedRef());
 	App().Tick();
-	Choose(TEXT("Select All"));
-	App().DismissAllMenus();
 	EXPECT_FALSE(App().AnyMenusVisible());
 }

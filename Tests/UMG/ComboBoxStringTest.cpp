@@ -8,6 +8,7 @@
 #include "Engine/Engine.h"
 #include "Engine/GameViewportClient.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Widgets/SCompoundWidget.h"
 #include "Widgets/SWindow.h"
 #include "Widgets/Text/STextBlock.h"
 
@@ -169,5 +170,130 @@ namespace
 			Beside.Add(Picture.Pixels[Row * Picture.Size.X + X]);
 		}
 		EXPECT_EQ(Beside.Num(), 1);
+	}
+
+	TEST_F(FComboBoxStringTest, RemovingTheSelectedOptionClearsTheSelection)
+	{
+		Combo->SetSelectedIndex(1);
+		Show();
+		TakeEvents();
+		Combo->RemoveOption(TEXT("Low"));
+		EXPECT_EQ(TakeEvents(), "");
+		EXPECT_EQ(Combo->GetSelectedIndex(), 0);
+		Combo->RemoveOption(TEXT("medium"));
+		EXPECT_EQ(TakeEvents(), "Direct:");
+		EXPECT_EQ(Combo->GetSelectedIndex(), -1);
+		EXPECT_TRUE(FindTexts(TEXT("Medium")).IsEmpty());
+	}
+
+	TEST_F(FComboBoxStringTest, OpenListShowsOptionsThatAreAddedAndCleared)
+	{
+		Show();
+		Driver.SingleClickAt(Driver.GetMiddle(*Combo));
+		Combo->AddOption(TEXT("Epic"));
+		Loop.RunUntilIdle();
+		EXPECT_TRUE(Combo->IsOpen());
+		EXPECT_EQ(FindTexts(TEXT("Epic")).Num(), 1);
+		Combo->ClearOptions();
+		Loop.RunUntilIdle();
+		EXPECT_TRUE(FindTexts(TEXT("Epic")).IsEmpty());
+		TakeEvents();
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_EQ(TakeEvents(), "");
+		Driver.PressKey(EKeys::Escape);
+		EXPECT_FALSE(Combo->IsOpen());
+	}
+
+	TEST_F(FComboBoxStringTest, EventMakesWhatBoxAndRowsShow)
+	{
+		Combo->OnGenerateWidgetEvent.BindDynamic(Listener, &UComboBoxListener::MakeOption);
+		Combo->SetSelectedIndex(0);
+		Show();
+		EXPECT_EQ(FindTexts(TEXT("[Low]")).Num(), 1);
+		Driver.SingleClickAt(Driver.GetMiddle(*Combo));
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+		EXPECT_EQ(FindTexts(TEXT("[Low]")).Num(), 2);
+		EXPECT_EQ(FindTexts(TEXT("[Medium]")).Num(), 1);
+		// Without a widget of its own, an option is shown as text.
+		EXPECT_EQ(FindTexts(TEXT("High")).Num(), 1);
+		Driver.PressKey(EKeys::End);
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_EQ(FindTexts(TEXT("High")).Num(), 1);
+		EXPECT_TRUE(FindTexts(TEXT("[Low]")).IsEmpty());
+		Combo->ClearSelection();
+		EXPECT_TRUE(FindTexts(TEXT("High")).IsEmpty());
+	}
+
+	TEST_F(FComboBoxStringTest, TypingFindsRowsThatTheEventMade)
+	{
+		Combo->OnGenerateWidgetEvent.BindDynamic(Listener, &UComboBoxListener::MakeOption);
+		Show();
+		Driver.SingleClickAt(Driver.GetMiddle(*Combo));
+		TakeEvents();
+		Driver.Type(TEXT("[m"));
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_EQ(TakeEvents(), "OnKeyPress:Medium");
+	}
+
+	TEST_F(FComboBoxStringTest, SettersChangeAShownBox)
+	{
+		Combo->SetSelectedIndex(0);
+		Show();
+		const auto GetLeft = [this]() { return FindTexts(TEXT("Low"))[0]->GetCachedGeometry().GetAbsolutePosition().X; };
+		const float Left = GetLeft();
+		Combo->SetContentPadding(FMargin(24.0f, 2.0f));
+		Loop.RunUntilIdle();
+		EXPECT_EQ(GetLeft(), Left + 20.0f);
+		EXPECT_EQ(Combo->GetContentPadding(), FMargin(24.0f, 2.0f));
+
+		FComboBoxStyle Style = Combo->GetWidgetStyle();
+		Style.ComboButtonStyle.ButtonStyle.NormalPadding = FMargin(0.0f);
+		Style.MenuRowPadding = FMargin(50.0f, 10.0f);
+		Combo->SetWidgetStyle(Style);
+		Loop.RunUntilIdle();
+		EXPECT_EQ(GetLeft(), Left + 8.0f);
+
+		FTableRowStyle Rows = Combo->GetItemStyle();
+		Rows.SetTextColor(FLinearColor::Red);
+		Combo->SetItemStyle(Rows);
+		Combo->SetMaxListHeight(40.0f);
+		EXPECT_EQ(Combo->GetMaxListHeight(), 40.0f);
+		Driver.SingleClickAt(Driver.GetMiddle(*Combo));
+		const TSharedRef<SWidget> Row = FindTexts(TEXT("Medium"))[0]->GetParentWidget().ToSharedRef();
+		EXPECT_EQ(StaticCastSharedRef<SCompoundWidget>(Row)->GetForegroundColor(), FSlateColor(FLinearColor::Red));
+		EXPECT_EQ(FindTexts(TEXT("Medium"))[0]->GetCachedGeometry().GetAbsolutePosition().X, 53.0f);
+		TSharedPtr<SWidget> List = Row;
+		while (List->GetType() != FName("Host::SComboList"))
+		{
+			List = List->GetParentWidget();
+		}
+		EXPECT_EQ(List->GetCachedGeometry().GetAbsoluteSize().Y, 46.0f);
+	}
+
+	TEST_F(FComboBoxStringTest, ArrowGoesAndComes)
+	{
+		Show();
+		const double With = Combo->GetDesiredSize().X;
+		Combo->SetHasDownArrow(false);
+		EXPECT_FALSE(Combo->IsHasDownArrow());
+		Loop.RunUntilIdle();
+		EXPECT_EQ(Combo->GetDesiredSize().X, With - 16.0);
+		Combo->SetHasDownArrow(true);
+		Loop.RunUntilIdle();
+		EXPECT_EQ(Combo->GetDesiredSize().X, With);
+	}
+
+	TEST_F(FComboBoxStringTest, HandlerMayFillTheBoxAnew)
+	{
+		Listener->OptionsToFill = {TEXT("One"), TEXT("Two")};
+		Combo->OnSelectionChanged.AddDynamic(Listener, &UComboBoxListener::Refill);
+		Listener->Refilled = Combo;
+		Show();
+		Driver.SingleClickAt(Driver.GetMiddle(*Combo));
+		Driver.PressKey(EKeys::Down);
+		Driver.PressKey(EKeys::Enter);
+		EXPECT_EQ(Combo->GetOptionCount(), 2);
+		EXPECT_EQ(Combo->GetSelectedIndex(), -1);
+		EXPECT_EQ(TakeEvents(), "Opening OnKeyPress:Low Direct:");
 	}
 }

@@ -5,7 +5,10 @@
 #include "UObject/Object.h"
 #include "ComboBoxListener.generated.h"
 
-/** Writes down what a combo box tells. */
+class UComboBoxString;
+class UWidget;
+
+/** Writes down what a combo box tells, and makes what it shows. */
 UCLASS()
 class UMGTESTTYPES_API UComboBoxListener : public UObject
 {
@@ -15,9 +18,23 @@ public:
 	/** What was told, in order. */
 	TArray<FString> Events;
 
+	/** What Refill puts in. */
+	TArray<FString> OptionsToFill;
+
+	UPROPERTY()
+	TObjectPtr<UComboBoxString> Refilled;
+
 	UFUNCTION()
 	void OnSelectionChanged(FString SelectedItem, ESelectInfo::Type SelectionType);
 
 	UFUNCTION()
 	void OnOpening() { Events.Add(TEXT("Opening")); }
+
+	/** Fills the box anew when something is selected. */
+	UFUNCTION()
+	void Refill(FString SelectedItem, ESelectInfo::Type SelectionType);
+
+	/** A text in brackets; nothing for "High". */
+	UFUNCTION()
+	UWidget* MakeOption(FString Item);
 };

@@ -2,6 +2,7 @@
 
 #include "Styling/CoreStyle.h"
 #include "Widgets/Input/SComboBox.h"
+#include "Widgets/Layout/SBox.h"
 #include "Widgets/Text/STextBlock.h"
 
 #define LOCTEXT_NAMESPACE "UMG"
@@ -10,6 +11,7 @@ UComboBoxString::UComboBoxString(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 	, WidgetStyle(FCoreStyle::Get().GetWidgetStyle<FComboBoxStyle>("ComboBox"))
 	, ItemStyle(FCoreStyle::Get().GetWidgetStyle<FTableRowStyle>("TableView.Row"))
+	, ScrollBarStyle(FCoreStyle::Get().GetWidgetStyle<FScrollBarStyle>("ScrollBar"))
 	, Font(FCoreStyle::GetDefaultFontStyle("Regular", 9.0f))
 {
 }
@@ -18,7 +20,7 @@ void UComboBoxString::AddOption(const FString& Option)
 {
 	TakeDefaults();
 	Options.Add(MakeShared<FString>(Option));
-	RefreshOptions();
+	RefreshList();
 }
 
 bool UComboBoxString::RemoveOption(const FString& Option)
@@ -34,7 +36,7 @@ bool UComboBoxString::RemoveOption(const FString& Option)
 		ClearSelection();
 	}
 	Options.RemoveAt(Index);
-	RefreshOptions();
+	RefreshList();
 	return true;
 }
 
@@ -53,7 +55,7 @@ void UComboBoxString::ClearOptions()
 	TakeDefaults();
 	ClearSelection();
 	Options.Reset();
-	RefreshOptions();
+	RefreshList();
 }
 
 void UComboBoxString::ClearSelection()
@@ -69,6 +71,12 @@ void UComboBoxString::ClearSelection()
 }
 
 void UComboBoxString::RefreshOptions()
+{
+	RefreshList();
+	ShowSelection();
+}
+
+void UComboBoxString::RefreshList()
 {
 	if (MyComboBox)
 	{
@@ -126,6 +134,70 @@ bool UComboBoxString::IsOpen() const
 	return MyComboBox && MyComboBox->IsOpen();
 }
 
+void UComboBoxString::SetWidgetStyle(const FComboBoxStyle& InWidgetStyle)
+{
+	WidgetStyle = InWidgetStyle;
+	if (MyComboBox)
+	{
+		MyComboBox->InvalidateStyle();
+	}
+}
+
+void UComboBoxString::SetItemStyle(const FTableRowStyle& InItemStyle)
+{
+	ItemStyle = InItemStyle;
+}
+
+void UComboBoxString::SetScrollBarStyle(const FScrollBarStyle& InScrollBarStyle)
+{
+	ScrollBarStyle = InScrollBarStyle;
+}
+
+void UComboBoxString::SetContentPadding(FMargin InPadding)
+{
+	ContentPadding = InPadding;
+	if (MyComboBox)
+	{
+		MyComboBox->SetButtonContentPadding(InPadding);
+	}
+}
+
+void UComboBoxString::SetMaxListHeight(float InMaxHeight)
+{
+	MaxListHeight = InMaxHeight;
+	if (MyComboBox)
+	{
+		MyComboBox->SetMaxHeight(InMaxHeight);
+	}
+}
+
+void UComboBoxString::SetHasDownArrow(bool InHasDownArrow)
+{
+	HasDownArrow = InHasDownArrow;
+	if (MyComboBox)
+	{
+		MyComboBox->SetHasDownArrow(InHasDownArrow);
+	}
+}
+
+void UComboBoxString::InitFont(FSlateFontInfo InFont)
+{
+	check(!MyComboBox);
+	Font = InFont;
+}
+
+void UComboBoxString::InitForegroundColor(FSlateColor InForegroundColor)
+{
+	check(!MyComboBox);
+	ForegroundColor = InForegroundColor;
+}
+
+void UComboBoxString::InitIsFocusable(bool InIsFocusable)
+{
+	check(!MyComboBox);
+	bIsFocusable = InIsFocusable;
+}
+
 void UComboBoxString::SynchronizeProperties()
 {
 	Super::SynchronizeProperties();
@@ -146,7 +218,10 @@ void UComboBoxString::ReleaseSlateResources(bool bReleaseChildren)
 {
 	Super::ReleaseSlateResources(bReleaseChildren);
 	MyComboBox.Reset();
+	MyContent.Reset();
 	MyText.Reset();
+	GeneratedContent = nullptr;
+	GeneratedRows.Reset();
 }
 
 void UComboBoxString::PostLoad()
@@ -168,19 +243,23 @@ TSharedRef<SWidget> UComboBoxString::RebuildWidget()
 	MyComboBox = SNew(SComboBox<TSharedPtr<FString>>)
 		.ComboBoxStyle(&WidgetStyle)
 		.ItemStyle(&ItemStyle)
+		.ScrollBarStyle(&ScrollBarStyle)
 		.OptionsSource(&Options)
 		.InitiallySelectedItem(CurrentOption)
 		.ContentPadding(ContentPadding)
 		.ForegroundColor(ForegroundColor)
 		.MaxListHeight(MaxListHeight)
 		.HasDownArrow(HasDownArrow)
-		.OnGenerateWidget(BIND_UOBJECT_DELEGATE(SComboBox<TSharedPtr<FString>>::FOnGenerateWidget, MakeRow))
+		.IsFocusable(bIsFocusable)
+		.OnGenerateWidget(BIND_UOBJECT_DELEGATE(SComboBox<TSharedPtr<FString>>::FOnGenerateWidget, HandleGenerateWidget))
 		.OnSelectionChanged(BIND_UOBJECT_DELEGATE(SComboBox<TSharedPtr<FString>>::FOnSelectionChanged, HandleSelectionChanged))
 		.OnComboBoxOpening(BIND_UOBJECT_DELEGATE(FSimpleDelegate, HandleOpening))
 		[
-			SAssignNew(MyText, STextBlock).Font(Font).OverflowPolicy(ETextOverflowPolicy::Ellipsis)
+			SAssignNew(MyContent, SBox).VAlign(VAlign_Center)
+			[
+				SAssignNew(MyText, STextBlock).Font(Font).OverflowPolicy(ETextOverflowPolicy::Ellipsis)
+			]
 		];
-	ShowSelection();
 	return MyComboBox.ToSharedRef();
 }
 
@@ -197,11 +276,22 @@ void UComboBoxString::HandleSelectionChanged(TSharedPtr<FString> Item, ESelectIn
 
 void UComboBoxString::HandleOpening()
 {
+	GeneratedRows.Reset();
 	OnOpening.Broadcast();
 }
 
-TSharedRef<SWidget> UComboBoxString::MakeRow(TSharedPtr<FString> Item) const
+UWidget* UComboBoxString::Generate(const FString& Option) const
 {
+	return OnGenerateWidgetEvent.IsBound() ? OnGenerateWidgetEvent.Execute(Option) : nullptr;
+}
+
+TSharedRef<SWidget> UComboBoxString::HandleGenerateWidget(TSharedPtr<FString> Item) const
+{
+	if (UWidget* Generated = Generate(*Item))
+	{
+		GeneratedRows.Add(Generated);
+		return Generated->TakeWidget();
+	}
 	return SNew(STextBlock).Text(FText::FromString(*Item)).Font(Font);
 }
 
@@ -225,10 +315,14 @@ void UComboBoxString::TakeDefaults()
 
 void UComboBoxString::ShowSelection()
 {
-	if (MyText)
+	if (!MyContent)
 	{
-		MyText->SetText(FText::FromString(GetSelectedOption()));
+		return;
 	}
+	MyText->SetText(FText::FromString(GetSelectedOption()));
+	UWidget* Generated = CurrentOption ? Generate(*CurrentOption) : nullptr;
+	MyContent->SetContent(Generated ? Generated->TakeWidget() : MyText.ToSharedRef());
+	GeneratedContent = Generated;
 }
 
 #undef LOCTEXT_NAMESPACE

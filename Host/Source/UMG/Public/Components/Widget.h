@@ -201,6 +201,9 @@ public:
 
 	UMG_API EWidgetDesignFlags GetDesignerFlags() const { return DesignerFlags; }
 
+	/** Makes what is shown for an item. */
+	DECLARE_DYNAMIC_DELEGATE_RetVal_OneParam(UWidget*, FGenerateWidgetForString, FString, Item);
+
 	/** Tells the widget and what it is made of whether it is in a designer. */
 	UMG_API virtual void SetDesignerFlags(EWidgetDesignFlags NewFlags);
 

@@ -1,5 +1,6 @@
 #include "Framework/Application/FocusTracker.h"
 
+#include "Framework/Application/MenuStack.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Widgets/SWidget.h"
 
@@ -52,6 +53,11 @@ namespace Host
 			OldWidget->OnFocusLost(Event);
 		}
 		// Whoever lost it may have put it elsewhere.
+		if (GetWidget() != (NewPath.IsValid() ? TSharedPtr<SWidget>(NewPath.GetLastWidget()) : nullptr))
+		{
+			return;
+		}
+		Application.Menus->FocusMoved(OldPath, NewPath);
 		if (!NewPath.IsValid() || GetWidget() != NewPath.GetLastWidget())
 		{
 			return;

@@ -12,6 +12,28 @@ namespace Host
 		constexpr int32 MenuZOrder = 10000;
 	}
 
+	FMenu::FMenu(FMenuStack& InStack, const TSharedRef<SWindow>& InWindow, const TSharedRef<SWidget>& InParent, const TSharedRef<SWidget>& InContent,
+		const TSharedRef<SWidget>& InLayer, bool bInIsAnchored)
+		: Stack(&InStack), Window(InWindow), Parent(InParent), WindowSize(InWindow->GetClientSizeInScreen())
+		, ParentPosition(InParent->GetCachedGeometry().GetAbsolutePosition()), bIsAnchored(bInIsAnchored), Content(InContent), Layer(InLayer)
+	{
+	}
+
+	bool FMenu::IsStillInPlace() const
+	{
+		const TSharedPtr<SWindow> OfWindow = Window.Pin();
+		const TSharedPtr<SWidget> OfParent = Parent.Pin();
+		FWidgetPath Path;
+		if (!OfWindow.IsValid() || OfWindow->GetClientSizeInScreen() != WindowSize || !OfParent.IsValid()
+			|| !FSlateApplication::Get().FindPathToWidget(OfParent.ToSharedRef(), Path)
+			|| Path.Widgets.ContainsByPredicate([](const FArrangedWidget& Arranged) { return !Arranged.Widget->IsEnabled(); }))
+		{
+			return false;
+		}
+		constexpr float Tolerance = 0.5f;
+		return !bIsAnchored || FVector2f::Distance(FVector2f(OfParent->GetCachedGeometry().GetAbsolutePosition()), ParentPosition) <= Tolerance;
+	}
+
 	void FMenu::Dismiss()
 	{
 		if (Stack)
@@ -44,7 +66,7 @@ namespace Host
 		[
 			Layer
 		];
-		const TSharedRef<FMenu> Menu = MakeShared<FMenu>(*this, Window.ToSharedRef(), Content, Layer);
+		const TSharedRef<FMenu> Menu = MakeShared<FMenu>(*this, Window.ToSharedRef(), Parent, Content, Layer, AnchorSize.Y > 0.0f);
 		Menus.Add(Menu);
 		if (bFocus)
 		{
@@ -64,6 +86,11 @@ namespace Host
 			}
 		}
 		return INDEX_NONE;
+	}
+
+	int32 FMenuStack::FindContaining(const FWidgetPath& Path) const
+	{
+		return Path.IsValid() ? FindContaining(Path.GetLastWidget().Get()) : INDEX_NONE;
 	}
 
 	void FMenuStack::Dismiss(const IMenu* Menu)
@@ -88,7 +115,7 @@ namespace Host
 	{
 		if (!Menus.IsEmpty())
 		{
-			DismissFrom(Path.IsValid() ? FindContaining(Path.GetLastWidget().Get()) + 1 : 0);
+			DismissFrom(FindContaining(Path) + 1);
 		}
 	}
 
@@ -99,6 +126,26 @@ namespace Host
 		{
 			DismissFrom(Index);
 		}
+	}
+
+	void FMenuStack::FocusMoved(const FWidgetPath& From, const FWidgetPath& To)
+	{
+		const int32 Kept = Menus.IsEmpty() ? INDEX_NONE : FindContaining(To);
+		if (!Menus.IsEmpty() && FindContaining(From) > Kept)
+		{
+			DismissFrom(Kept + 1);
+		}
+	}
+
+	bool FMenuStack::DismissOutdated()
+	{
+		const int32 Index = Menus.IndexOfByPredicate([](const TSharedRef<FMenu>& Menu) { return !Menu->IsStillInPlace(); });
+		if (Index == INDEX_NONE)
+		{
+			return false;
+		}
+		DismissFrom(Index);
+		return true;
 	}
 
 	void FMenuStack::DismissFrom(int32 Index)

@@ -16,10 +16,9 @@ namespace Host
 	class FMenu final : public IMenu, public TSharedFromThis<FMenu>
 	{
 	public:
-		FMenu(FMenuStack& InStack, const TSharedRef<SWindow>& InWindow, const TSharedRef<SWidget>& InContent, const TSharedRef<SWidget>& InLayer)
-			: Stack(&InStack), Window(InWindow), Content(InContent), Layer(InLayer)
-		{
-		}
+		/** @param bInIsAnchored	it belongs to the place where its parent is shown */
+		FMenu(FMenuStack& InStack, const TSharedRef<SWindow>& InWindow, const TSharedRef<SWidget>& InParent, const TSharedRef<SWidget>& InContent,
+			const TSharedRef<SWidget>& InLayer, bool bInIsAnchored);
 
 		virtual TSharedPtr<SWidget> GetContent() const override { return Content; }
 		virtual TSharedPtr<SWindow> GetParentWindow() const override { return Window.Pin(); }
@@ -29,9 +28,17 @@ namespace Host
 	private:
 		friend class FMenuStack;
 
+		/** False when what the menu was opened from is gone, hidden, disabled or elsewhere, or its window has another size. */
+		bool IsStillInPlace() const;
+
 		/** Null when the menu has been taken away. */
 		FMenuStack* Stack;
 		TWeakPtr<SWindow> Window;
+		TWeakPtr<SWidget> Parent;
+		/** Pixels, as they were when the menu was opened. */
+		FVector2D WindowSize;
+		FVector2f ParentPosition;
+		bool bIsAnchored;
 		TSharedRef<SWidget> Content;
 		TSharedRef<SWidget> Layer;
 		FOnMenuDismissed OnMenuDismissed;
@@ -56,6 +63,10 @@ namespace Host
 		void DismissOutside(const FWidgetPath& Path);
 		/** Dismisses the menus above a window that goes. */
 		void DismissOf(const SWindow& Window);
+		/** Dismisses the menus that the keyboard focus has left. */
+		void FocusMoved(const FWidgetPath& From, const FWidgetPath& To);
+		/** Dismisses the menus that what they were opened from does not hold any more; false when there are none. */
+		bool DismissOutdated();
 
 		int32 Num() const { return Menus.Num(); }
 		TSharedPtr<IMenu> GetTop() const { return Menus.IsEmpty() ? TSharedPtr<IMenu>() : TSharedPtr<IMenu>(Menus.Last()); }
@@ -63,6 +74,7 @@ namespace Host
 	private:
 		void DismissFrom(int32 Index);
 		int32 FindContaining(const SWidget& Widget) const;
+		int32 FindContaining(const FWidgetPath& Path) const;
 
 		FSlateApplication& Application;
 		TArray<TSharedRef<FMenu>> Menus;

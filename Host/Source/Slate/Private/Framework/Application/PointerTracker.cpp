@@ -160,6 +160,8 @@ namespace Host
 		SetPosition(InEvent.GetScreenSpacePosition());
 		Application.RefreshWindows();
 		Application.CloseToolTip();
+		// What lies below a menu may scroll away from under it.
+		Application.Menus->DismissOutside(Locate(InEvent));
 		const FRoutedReply Routed = Bubble(Locate(InEvent), [&InEvent](const FArrangedWidget& Target) { return Target.Widget->OnMouseWheel(Target.Geometry, InEvent); });
 		Application.ProcessReply(Routed.Path, Routed.Reply, &InEvent);
 		return Routed.Reply.IsEventHandled();

@@ -22,15 +22,17 @@ void SPopupLayer::OnArrangeChildren(const FGeometry& AllottedGeometry, FArranged
 		return;
 	}
 	const FVector2f Room = AllottedGeometry.GetLocalSize();
-	const FVector2f Size = FVector2f::Min(Child->GetDesiredSize(), Room);
+	FVector2f Size = FVector2f::Min(Child->GetDesiredSize(), Room);
 	const FVector2f Anchor = AllottedGeometry.AbsoluteToLocal(Position);
 	const float AnchorHeight = AnchorSize.Y / AllottedGeometry.Scale;
-	FVector2f Place(Anchor.X, Anchor.Y + AnchorHeight);
-	const float Above = Anchor.Y - Clearance / AllottedGeometry.Scale - Size.Y;
-	if (Place.Y + Size.Y > Room.Y && (AnchorHeight > 0.0f || Clearance > 0.0f) && Above >= 0.0f)
+	const float RoomBelow = Room.Y - Anchor.Y - AnchorHeight;
+	const float RoomAbove = Anchor.Y - Clearance / AllottedGeometry.Scale;
+	if (AnchorHeight > 0.0f)
 	{
-		Place.Y = Above;
+		Size.Y = FMath::Min(Size.Y, FMath::Max3(RoomBelow, RoomAbove, 0.0f));
 	}
+	const bool bAbove = Size.Y > RoomBelow && (AnchorHeight > 0.0f || Clearance > 0.0f) && Size.Y <= RoomAbove;
+	FVector2f Place(Anchor.X, bAbove ? RoomAbove - Size.Y : Anchor.Y + AnchorHeight);
 	Place = FVector2f::Max(FVector2f::Min(Place, Room - Size), FVector2f(0.0f, 0.0f));
 	ArrangedChildren.AddWidget(AllottedGeometry.MakeChild(Child, Place, Size));
 }

@@ -4,7 +4,10 @@
 #include "Layout/BasicLayoutWidgetSlot.h"
 #include "Widgets/SPanel.h"
 
-/** Covers a window, and puts one child at a place in it, as large as it wants to be and within the window. */
+/**
+ * Covers a window, and puts one child at a place in it, as large as it wants to be and within the window. Where neither
+ * side of what it belongs to has room for all of it, it is made as high as the larger side.
+ */
 class SPopupLayer : public SPanel
 {
 public:

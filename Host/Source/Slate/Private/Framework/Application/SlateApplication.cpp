@@ -78,6 +78,10 @@ void FSlateApplication::Tick()
 	Host::FWidgetActivity::BeginFrame(CurrentTime, DeltaTime);
 	ToolTips->Tick();
 	RefreshWindows();
+	if (Menus->DismissOutdated())
+	{
+		RefreshWindows();
+	}
 	RefreshHovering();
 	if (!Renderer.IsValid())
 	{

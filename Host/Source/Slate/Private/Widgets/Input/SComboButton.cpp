@@ -67,12 +67,17 @@ void SComboButton::SetIsOpen(bool InIsOpen, bool bFocusMenu)
 	{
 		return;
 	}
-	const FGeometry& Place = GetCachedGeometry();
+	// The handlers may take the button away.
+	const TSharedRef<SWidget> KeepAlive = AsShared();
 	WidgetToFocus.Reset();
 	const TSharedRef<SWidget> Content = OnGetMenuContent.Execute();
+	const FGeometry& Place = GetCachedGeometry();
 	// The layer of menus has the scale of the window; what stands in the menu is to look like the button.
 	const TSharedRef<SWidget> Scaled = SNew(SScaleBox)
 		.Stretch(EStretch::UserSpecified)
+		// A menu that is given less room than it wants is to make do with it.
+		.HAlign(HAlign_Fill)
+		.VAlign(VAlign_Fill)
 		.UserSpecifiedScale(Place.Scale / Window->GetCachedGeometry().Scale)
 		[
 			SNew(SBox).MinDesiredWidth(FOptionalSize(Place.GetLocalSize().X))[Content]

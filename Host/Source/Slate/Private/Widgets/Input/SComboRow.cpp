@@ -1,9 +1,30 @@
 #include "Widgets/Input/SComboRow.h"
 
 #include "InputCoreTypes.h"
+#include "Widgets/Text/STextBlock.h"
 
 namespace Host
 {
+	namespace
+	{
+		const STextBlock* FindText(const SWidget& Widget)
+		{
+			if (Widget.GetType() == FName("STextBlock"))
+			{
+				return static_cast<const STextBlock*>(&Widget);
+			}
+			const FChildren& Children = *Widget.GetChildren();
+			for (int32 Index = 0; Index < Children.Num(); ++Index)
+			{
+				if (const STextBlock* Found = FindText(Children.GetChildAt(Index).Get()))
+				{
+					return Found;
+				}
+			}
+			return nullptr;
+		}
+	}
+
 	void SComboRow::Construct(const FArguments& InArgs)
 	{
 		Style = InArgs._RowStyle ? InArgs._RowStyle : &FTableRowStyle::GetDefault();
@@ -25,6 +46,12 @@ namespace Host
 			bMarked = bInMarked;
 			UpdateLook();
 		}
+	}
+
+	FString SComboRow::GetText() const
+	{
+		const STextBlock* Text = FindText(*this);
+		return Text ? Text->GetText().ToString() : FString();
 	}
 
 	FSlateColor SComboRow::GetForegroundColor() const

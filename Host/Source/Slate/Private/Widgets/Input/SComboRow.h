@@ -25,6 +25,9 @@ namespace Host
 
 		void SetMarked(bool bInMarked);
 
+		/** The first text in the row; empty when it shows none. */
+		FString GetText() const;
+
 		virtual FSlateColor GetForegroundColor() const override;
 		virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 		virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;

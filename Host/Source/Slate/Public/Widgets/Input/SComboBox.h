@@ -3,11 +3,16 @@
 #include "CoreMinimal.h"
 #include "Host/ComboList.h"
 #include "InputCoreTypes.h"
+#include "Styling/CoreStyle.h"
 #include "Widgets/Input/SComboButton.h"
 
 /**
- * Shows one of several options, and lets the user choose another from a list. While it is closed, the up and down keys go
- * through the options.
+ * Shows one of several options, and lets the user choose another from a list. While it is closed, Up, Down, Home and End
+ * select, Enter, the space bar and Alt with Up or Down open the list, and so does a letter or digit, which marks the next row
+ * that begins with it. The wheel is left to what the box stands in: scrolling a page over it selects nothing.
+ *
+ * Selections by keys of the closed box are told as OnNavigation, those from the list as OnKeyPress or OnMouseClick, those
+ * from code as Direct.
  *
  * Options are shared pointers. The array of options is kept by address; RefreshOptions is to be called when it changed.
  */
@@ -21,6 +26,7 @@ public:
 	SLATE_BEGIN_ARGS(SComboBox)
 		: _ComboBoxStyle(&FCoreStyle::Get().GetWidgetStyle<FComboBoxStyle>("ComboBox"))
 		, _ItemStyle(&FCoreStyle::Get().GetWidgetStyle<FTableRowStyle>("TableView.Row"))
+		, _ScrollBarStyle(&FCoreStyle::Get().GetWidgetStyle<FScrollBarStyle>("ScrollBar"))
 		, _ContentPadding(FMargin(0.0f))
 		, _ForegroundColor(FSlateColor::UseStyle())
 		, _OptionsSource(nullptr)
@@ -31,15 +37,16 @@ public:
 	}
 		/** What the closed box shows. */
 		SLATE_DEFAULT_SLOT(FArguments, Content)
-		/** Both kept by address. */
+		/** All kept by address. */
 		SLATE_STYLE_ARGUMENT(FComboBoxStyle, ComboBoxStyle)
 		SLATE_STYLE_ARGUMENT(FTableRowStyle, ItemStyle)
+		SLATE_STYLE_ARGUMENT(FScrollBarStyle, ScrollBarStyle)
 		SLATE_ATTRIBUTE(FMargin, ContentPadding)
 		SLATE_ATTRIBUTE(FSlateColor, ForegroundColor)
 		SLATE_ARGUMENT(const TArray<OptionType>*, OptionsSource)
 		/** Raises nothing. */
 		SLATE_ARGUMENT(OptionType, InitiallySelectedItem)
-		/** In slate units. */
+		/** In slate units; a longer list scrolls. */
 		SLATE_ARGUMENT(float, MaxListHeight)
 		SLATE_ARGUMENT(bool, HasDownArrow)
 		SLATE_ARGUMENT(bool, IsFocusable)
@@ -54,6 +61,7 @@ public:
 	{
 		ComboBoxStyle = InArgs._ComboBoxStyle;
 		ItemStyle = InArgs._ItemStyle;
+		ScrollBarStyle = InArgs._ScrollBarStyle;
 		OptionsSource = InArgs._OptionsSource;
 		SelectedItem = InArgs._InitiallySelectedItem;
 		MaxListHeight = InArgs._MaxListHeight;
@@ -81,14 +89,26 @@ public:
 		if (SelectedItem != InSelectedItem)
 		{
 			SelectedItem = InSelectedItem;
-			OnSelectionChanged.ExecuteIfBound(InSelectedItem, InSelectInfo);
+			if (const TSharedPtr<Host::SComboList> Shown = IsOpen() ? List.Pin() : nullptr)
+			{
+				Shown->Mark(ShownOptions.Find(InSelectedItem));
+			}
+			// By value: the handler may take the box away.
+			const FOnSelectionChanged Handler = OnSelectionChanged;
+			Handler.ExecuteIfBound(InSelectedItem, InSelectInfo);
 		}
 	}
 
 	void ClearSelection() { SetSelectedItem(OptionType()); }
 
-	/** The options changed: a list that is open is closed, as it shows the former ones. */
-	void RefreshOptions() { SetIsOpen(false); }
+	/** The options changed: a list that is open shows them as they are in the next frame. */
+	void RefreshOptions()
+	{
+		if (IsOpen() && !RefreshTimer.IsValid())
+		{
+			RefreshTimer = RegisterActiveTimer(0.0f, FWidgetActiveTimerDelegate::CreateSP(this, &SComboBox::RefreshList));
+		}
+	}
 
 	void SetMaxHeight(float InMaxHeight) { MaxListHeight = InMaxHeight; }
 
@@ -97,41 +117,93 @@ public:
 
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override
 	{
-		const FKey Key = InKeyEvent.GetKey();
-		if (IsOpen() || !IsEnabled() || (Key != EKeys::Up && Key != EKeys::Down) || OptionsSource->IsEmpty())
+		if (IsOpen() || !IsEnabled() || InKeyEvent.IsControlDown() || InKeyEvent.IsCommandDown())
 		{
 			return SComboButton::OnKeyDown(MyGeometry, InKeyEvent);
 		}
-		const int32 Index = FMath::Clamp(OptionsSource->Find(SelectedItem) + (Key == EKeys::Down ? 1 : -1), 0, OptionsSource->Num() - 1);
-		SetSelectedItem((*OptionsSource)[Index], ESelectInfo::OnNavigation);
-		return FReply::Handled();
+		const FKey Key = InKeyEvent.GetKey();
+		const bool bIsUpOrDown = Key == EKeys::Up || Key == EKeys::Down;
+		if (InKeyEvent.IsAltDown() && bIsUpOrDown)
+		{
+			SetIsOpen(true);
+			return FReply::Handled();
+		}
+		if (InKeyEvent.IsAltDown())
+		{
+			return SComboButton::OnKeyDown(MyGeometry, InKeyEvent);
+		}
+		if (bIsUpOrDown || Key == EKeys::Home || Key == EKeys::End)
+		{
+			return SelectByKey(Key) ? FReply::Handled() : SComboButton::OnKeyDown(MyGeometry, InKeyEvent);
+		}
+		const FString Typed = Key.GetDisplayName().ToString();
+		if (Typed.Len() == 1 && FChar::IsAlnum(Typed[0]))
+		{
+			SetIsOpen(true);
+			if (const TSharedPtr<Host::SComboList> Shown = List.Pin())
+			{
+				Shown->TypeCharacter(Typed[0]);
+			}
+			return FReply::Handled();
+		}
+		return SComboButton::OnKeyDown(MyGeometry, InKeyEvent);
 	}
 
 private:
+	/** False when there is nothing to select. */
+	bool SelectByKey(const FKey& Key)
+	{
+		const int32 Last = OptionsSource->Num() - 1;
+		const int32 Current = OptionsSource->Find(SelectedItem);
+		const int32 Next = Key == EKeys::Home ? 0 : Key == EKeys::End ? Last : Current + (Key == EKeys::Down ? 1 : -1);
+		if (Last >= 0)
+		{
+			SetSelectedItem(OptionType((*OptionsSource)[FMath::Clamp(Next, 0, Last)]), ESelectInfo::OnNavigation);
+		}
+		return Last >= 0;
+	}
+
 	TSharedRef<SWidget> MakeList()
 	{
 		OnComboBoxOpening.ExecuteIfBound();
+		const TSharedRef<Host::SComboList> NewList = SNew(Host::SComboList)
+			.ComboStyle(ComboBoxStyle)
+			.RowStyle(ItemStyle)
+			.ScrollBarStyle(ScrollBarStyle)
+			.MaxHeight(MaxListHeight)
+			.OnChosen(Host::FOnComboRowChosen::CreateSP(this, &SComboBox::OnRowChosen));
+		List = NewList;
+		FillList(NewList.Get());
+		return NewList;
+	}
+
+	void FillList(Host::SComboList& Filled)
+	{
+		ShownOptions = *OptionsSource;
 		TArray<TSharedRef<SWidget>> Rows;
-		for (const OptionType& Option : *OptionsSource)
+		for (const OptionType& Option : TArray<OptionType>(ShownOptions))
 		{
 			Rows.Add(OnGenerateWidget.Execute(Option));
 		}
-		const TSharedRef<Host::SComboList> List = SNew(Host::SComboList)
-			.ComboStyle(ComboBoxStyle)
-			.RowStyle(ItemStyle)
-			.MaxHeight(MaxListHeight)
-			.Marked(OptionsSource->Find(SelectedItem))
-			.Rows(Rows)
-			.OnChosen(Host::FOnComboRowChosen::CreateSP(this, &SComboBox::OnRowChosen));
-		return List;
+		Filled.SetRows(Rows, ShownOptions.Find(SelectedItem));
+	}
+
+	EActiveTimerReturnType RefreshList(double, float)
+	{
+		RefreshTimer.Reset();
+		if (const TSharedPtr<Host::SComboList> Shown = IsOpen() ? List.Pin() : nullptr)
+		{
+			FillList(*Shown);
+		}
+		return EActiveTimerReturnType::Stop;
 	}
 
 	void OnRowChosen(int32 Index, ESelectInfo::Type SelectInfo)
 	{
-		const bool bStillThere = OptionsSource->IsValidIndex(Index);
-		const OptionType Chosen = bStillThere ? (*OptionsSource)[Index] : OptionType();
+		const OptionType Chosen = ShownOptions[Index];
 		SetIsOpen(false);
-		if (bStillThere)
+		// It may have been taken away since it was shown.
+		if (OptionsSource->Contains(Chosen))
 		{
 			SetSelectedItem(Chosen, SelectInfo);
 		}
@@ -139,9 +211,14 @@ private:
 
 	const FComboBoxStyle* ComboBoxStyle = nullptr;
 	const FTableRowStyle* ItemStyle = nullptr;
+	const FScrollBarStyle* ScrollBarStyle = nullptr;
 	const TArray<OptionType>* OptionsSource = nullptr;
+	/** Those that the rows of the list were made for. */
+	TArray<OptionType> ShownOptions;
 	OptionType SelectedItem;
 	float MaxListHeight = 450.0f;
+	TWeakPtr<Host::SComboList> List;
+	TSharedPtr<FActiveTimerHandle> RefreshTimer;
 	FOnGenerateWidget OnGenerateWidget;
 	FOnSelectionChanged OnSelectionChanged;
 	FSimpleDelegate OnComboBoxOpening;

@@ -14,7 +14,11 @@ class SImage;
 /** The menu came up, or went. */
 DECLARE_DELEGATE_OneParam(FOnIsOpenChanged, bool);
 
-/** A button that opens a menu below it, or above when there is no room below. The menu is at least as wide as the button. */
+/**
+ * A button that opens a menu below it, or above when there is no room below. The menu is at least as wide as the button. It
+ * is closed by a press outside of it, Escape, the focus going elsewhere, and by whatever happens to the button: when it is
+ * taken away, hidden, disabled or moved, or its window gets another size.
+ */
 class SLATE_API SComboButton : public SCompoundWidget
 {
 public:
