@@ -382,6 +382,17 @@ TEST_F(ConfigTest, SavingOverAFileThatWasLeftOutKeepsACopyOfIt)
 	EXPECT_EQ(Damaged, Folder.Read(TEXT("Saved/Config/CoreTest.ini.damaged")));
 }
 
+TEST_F(ConfigTest, AWrongValueIsOneLineForAllWhoReadIt)
+{
+	WriteUser("[S]\nI=many\n");
+	const FExpectedLog Expected(TEXT("[S] I: expected a number, found 'many'"), 2);
+	int32 Integer = 5;
+	EXPECT_FALSE(GConfig->GetInt(TEXT("S"), TEXT("I"), Integer, Name));
+	EXPECT_FALSE(GConfig->GetInt(TEXT("S"), TEXT("I"), Integer, Name));
+	GConfig->Flush(true, Name);
+	EXPECT_FALSE(GConfig->GetInt(TEXT("S"), TEXT("I"), Integer, Name)) << "read anew, said anew";
+}
+
 TEST_F(ConfigTest, SavingKeepsTheOrderOfOperations)
 {
 	WriteUser("[S]\n-P=a\n+P=a\n-P=a\n+P=b\n");

@@ -93,6 +93,48 @@ TEST(FilesTest, WritingThroughALinkKeepsTheLink)
 	EXPECT_TRUE(S_ISLNK(Status.st_mode));
 }
 
+TEST(FilesTest, WritingThroughALinkToNowhereMakesWhatItLeadsTo)
+{
+	const FTemporaryFolder Folder;
+	ASSERT_EQ(0, symlink("Second.txt", TCHAR_TO_UTF8(*(Folder / TEXT("First.txt")))));
+	ASSERT_EQ(0, symlink("Dir/Real.txt", TCHAR_TO_UTF8(*(Folder / TEXT("Second.txt")))));
+	EXPECT_FALSE(FFiles::IsAbsent(Folder / TEXT("First.txt")));
+	EXPECT_TRUE(FFiles::IsAbsent(Folder / TEXT("Dir/Real.txt")));
+	Folder.Write(TEXT("First.txt"), "new");
+	EXPECT_EQ("new", Folder.Read(TEXT("Dir/Real.txt")));
+	EXPECT_EQ("new", Folder.Read(TEXT("First.txt")));
+}
+
+TEST(FilesTest, DevicesAreNotReplaced)
+{
+	const FTemporaryFolder Folder;
+	const FString Link = Folder / TEXT("Link");
+	ASSERT_EQ(0, symlink("/dev/null", TCHAR_TO_UTF8(*Link)));
+	FString Reason;
+	FString Name;
+	EXPECT_FALSE(FFiles::Write(Link, "x", 1, Reason));
+	EXPECT_EQ("is no regular file", ToUtf8(Reason));
+	EXPECT_FALSE(FFiles::SetAside(Link, TEXT(".old"), Name, Reason));
+	EXPECT_EQ("is no regular file", ToUtf8(Reason));
+}
+
+TEST(FilesTest, WhatIsSetAsideGetsAFreeName)
+{
+	const FTemporaryFolder Folder;
+	FString Reason;
+	FString Name;
+	for (const char* const Content : { "first", "second", "third" })
+	{
+		const FString File = Folder.Write(TEXT("A.txt"), Content);
+		EXPECT_TRUE(FFiles::SetAside(File, TEXT(".old"), Name, Reason));
+		EXPECT_TRUE(FFiles::IsAbsent(File));
+	}
+	EXPECT_EQ(ToUtf8(Folder / TEXT("A.txt.old3")), ToUtf8(Name));
+	EXPECT_EQ("first", Folder.Read(TEXT("A.txt.old")));
+	EXPECT_EQ("second", Folder.Read(TEXT("A.txt.old2")));
+	EXPECT_FALSE(FFiles::SetAside(Folder / TEXT("Gone"), TEXT(".old"), Name, Reason));
+}
+
 TEST(FilesTest, AFolderIsNotOverwritten)
 {
 	const FTemporaryFolder Folder;

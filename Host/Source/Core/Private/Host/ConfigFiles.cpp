@@ -1,5 +1,8 @@
 #include "Host/ConfigFiles.h"
 
+#include "Host/Files.h"
+#include "Logging/LogMacros.h"
+#include "Misc/ConfigCacheIni.h"
 #include "Misc/IniFile.h"
 #include "Misc/Paths.h"
 
@@ -48,6 +51,18 @@ TArray<FString> Host::FConfigFiles::GetLayers(const FString& Name)
 	Layers.AddUnique(GetProjectFile(Name));
 	Layers.Add(GetUserFile(Name));
 	return Layers;
+}
+
+void Host::FConfigFiles::SetAside(const FString& Name)
+{
+	GConfig->Flush(true, Name);
+	const FString Filename = GetUserFile(Name);
+	FString Kept;
+	FString Reason;
+	if (!FFiles::IsAbsent(Filename) && !FFiles::SetAside(Filename, TEXT(".old"), Kept, Reason))
+	{
+		UE_LOG(LogCore, Warning, TEXT("%s: the file cannot be set aside: %s"), *Filename, *Reason);
+	}
 }
 
 bool Host::FConfigFiles::SaveProjectDefault(const FString& Name, const FString& Section, const FString& Key, const TArray<FString>& Values)

@@ -76,6 +76,24 @@ namespace
 		return 0666 & ~Mask;
 	}
 
+	/** What a path leads to, be it there or not. */
+	std::filesystem::path FollowLinks(std::filesystem::path Path, std::error_code& OutError)
+	{
+		// As many as the system itself follows.
+		constexpr int MostLinks = 40;
+		std::error_code Absent;
+		for (int Link = 0; std::filesystem::is_symlink(Path, Absent) && !OutError; ++Link)
+		{
+			if (Link == MostLinks)
+			{
+				OutError = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+				break;
+			}
+			Path = Path.parent_path() / std::filesystem::read_symlink(Path, OutError);
+		}
+		return Path;
+	}
+
 	/** Makes a rename in the folder last through a crash. */
 	void SyncFolder(const std::filesystem::path& Folder)
 	{
@@ -162,20 +180,16 @@ bool Host::FFiles::Read(const FString& Filename, int64 MaxBytes, TArray<uint8>& 
 
 bool Host::FFiles::Write(const FString& Filename, const void* Bytes, int64 Size, FString& OutReason)
 {
-	std::filesystem::path Target = ToNativePath(Filename);
 	std::error_code Absent;
 	std::error_code Error;
-	if (std::filesystem::is_symlink(Target, Absent))
-	{
-		Target = std::filesystem::weakly_canonical(Target, Error);
-	}
+	std::filesystem::path Target = FollowLinks(ToNativePath(Filename), Error);
 	if (!Error && Target.has_parent_path())
 	{
 		std::filesystem::create_directories(Target.parent_path(), Error);
 	}
-	if (std::filesystem::is_directory(Target, Absent))
+	if (const std::filesystem::file_status Status = std::filesystem::status(Target, Absent); std::filesystem::exists(Status) && !std::filesystem::is_regular_file(Status))
 	{
-		OutReason = TEXT("is a folder, not a file");
+		OutReason = std::filesystem::is_directory(Status) ? TEXT("is a folder, not a file") : TEXT("is no regular file");
 		return false;
 	}
 	if (Error)
@@ -189,6 +203,38 @@ bool Host::FFiles::Write(const FString& Filename, const void* Bytes, int64 Size,
 		return false;
 	}
 	return true;
+}
+
+bool Host::FFiles::SetAside(const FString& Filename, const TCHAR* Suffix, FString& OutName, FString& OutReason)
+{
+	std::error_code Error;
+	const std::filesystem::path Target = std::filesystem::canonical(ToNativePath(Filename), Error);
+	if (!Error && !std::filesystem::is_regular_file(Target, Error))
+	{
+		OutReason = TEXT("is no regular file");
+		return false;
+	}
+	if (!Error)
+	{
+		const FString Wanted = FromNativePath(Target) + Suffix;
+		OutName = Wanted;
+		for (int32 Number = 2; !IsAbsent(OutName); ++Number)
+		{
+			OutName = FString::Printf(TEXT("%s%d"), *Wanted, Number);
+		}
+		std::filesystem::rename(Target, ToNativePath(OutName), Error);
+	}
+	if (Error)
+	{
+		OutReason = DescribeError(Error.value());
+	}
+	return !Error;
+}
+
+bool Host::FFiles::IsAbsent(const FString& Path)
+{
+	struct stat Status;
+	return lstat(ToNativePath(Path).c_str(), &Status) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
 FString Host::FFiles::Resolve(const FString& Path)

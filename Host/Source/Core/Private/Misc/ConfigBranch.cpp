@@ -1,6 +1,5 @@
 #include "Misc/ConfigBranch.h"
 
-#include "Containers/Set.h"
 #include "Host/ConfigFiles.h"
 
 namespace
@@ -113,6 +112,13 @@ bool Host::FConfigBranch::RemoveSection(const FString& Section)
 	bChanged = true;
 	Merge();
 	return true;
+}
+
+bool Host::FConfigBranch::IsFirstReport(const FString& What)
+{
+	bool bKnown = false;
+	Reports.Add(What, &bKnown);
+	return !bKnown;
 }
 
 bool Host::FConfigBranch::Save()

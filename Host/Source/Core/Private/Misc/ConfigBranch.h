@@ -2,6 +2,7 @@
 
 #include "Containers/Array.h"
 #include "Containers/Map.h"
+#include "Containers/Set.h"
 #include "Containers/UnrealString.h"
 #include "Misc/IniFile.h"
 
@@ -26,6 +27,9 @@ namespace Host
 		bool RemoveKey(const FString& Section, const FString& Key);
 		bool RemoveSection(const FString& Section);
 
+		/** Whether the text was not handed to this before. */
+		bool IsFirstReport(const FString& What);
+
 		/** Writes the user's layer when it has changed. Returns false when that failed. */
 		bool Save();
 
@@ -38,6 +42,7 @@ namespace Host
 		FIniFile UserLayer;
 		FString UserFile;
 		bool bChanged = false;
+		TSet<FString> Reports;
 
 		/** What the layers make together. */
 		TMap<FString, FConfigValues> Sections;

@@ -1,6 +1,7 @@
 #include "Misc/ConfigCacheIni.h"
 
 #include "Containers/Map.h"
+#include "Host/ConfigFiles.h"
 #include "Logging/LogMacros.h"
 #include "Math/UnrealMathUtility.h"
 #include "Misc/ConfigBranch.h"
@@ -55,6 +56,11 @@ struct FConfigCacheIni::FContent
 	}
 };
 
+bool Host::FConfigFiles::IsFirstReport(const FString& Name, const FString& Section, const FString& Key, const FString& Value)
+{
+	return GConfig->GetContent().GetBranch(Name).IsFirstReport(Section + TEXT("\n") + Key + TEXT("\n") + Value);
+}
+
 FConfigCacheIni::~FConfigCacheIni()
 {
 	delete Content;
@@ -89,7 +95,7 @@ bool FConfigCacheIni::GetDouble(const TCHAR* Section, const TCHAR* Key, double& 
 	}
 	if (!Text.IsNumeric())
 	{
-		UE_LOG(LogCore, Warning, TEXT("%s: [%s] %s: expected a number, found '%s'"), *FPaths::GetBaseFilename(Filename), Section, Key, *Text);
+		UE_CLOG(Host::FConfigFiles::IsFirstReport(Filename, Section, Key, Text), LogCore, Warning, TEXT("%s: [%s] %s: expected a number, found '%s'"), *FPaths::GetBaseFilename(Filename), Section, Key, *Text.Left(100));
 		return false;
 	}
 	Value = FCString::Atod(*Text);

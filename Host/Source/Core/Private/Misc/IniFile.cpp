@@ -1,7 +1,6 @@
 #include "Misc/IniFile.h"
 
 #include "Containers/StringConv.h"
-#include "HAL/FileManager.h"
 #include "Host/Files.h"
 #include "Logging/LogMacros.h"
 #include "Misc/FileHelper.h"
@@ -60,7 +59,7 @@ void Host::FIniFile::Load(const FString& Filename)
 {
 	Lines.Empty();
 	bLeftOut = false;
-	if (!FPaths::FileExists(Filename))
+	if (FFiles::IsAbsent(Filename))
 	{
 		return;
 	}
@@ -191,14 +190,19 @@ bool Host::FIniFile::RemoveSection(const FString& Section)
 
 bool Host::FIniFile::Save(const FString& Filename)
 {
-	if (bLeftOut)
+	FString Reason;
+	// What was left out may be gone meanwhile.
+	if (bLeftOut && FPaths::FileExists(Filename))
 	{
-		if (FPaths::FileExists(Filename) && IFileManager::Get().Copy(*(Filename + TEXT(".damaged")), *Filename) != COPY_OK)
+		FString Kept;
+		if (!FFiles::SetAside(Filename, TEXT(".damaged"), Kept, Reason))
 		{
+			UE_LOG(LogCore, Warning, TEXT("%s: the configuration cannot be saved: what is there cannot be read, nor kept under another name: %s"), *Filename, *Reason);
 			return false;
 		}
-		bLeftOut = false;
+		UE_LOG(LogCore, Log, TEXT("%s: what could not be read is kept as %s"), *Filename, *Kept);
 	}
+	bLeftOut = false;
 	FString Text;
 	for (const FIniLine& Line : Lines)
 	{
@@ -206,7 +210,6 @@ bool Host::FIniFile::Save(const FString& Filename)
 		Text += TEXT("\n");
 	}
 	const FTCHARToUTF8 Utf8(*Text, Text.Len());
-	FString Reason;
 	if (!FFiles::Write(Filename, Utf8.Get(), Utf8.Length(), Reason))
 	{
 		UE_LOG(LogCore, Warning, TEXT("%s: the configuration cannot be saved: %s"), *Filename, *Reason);

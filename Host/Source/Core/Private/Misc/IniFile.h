@@ -24,8 +24,8 @@ namespace Host
 		bool RemoveSection(const FString& Section);
 
 		/**
-		 * Writes the file whole or not at all; a failure is one log line. A file that Load had to leave out is kept in a copy
-		 * beside it, with ".damaged" behind its name.
+		 * Writes the file whole or not at all; a failure is one log line. A file that Load had to leave out is kept beside it,
+		 * with ".damaged" behind its name.
 		 */
 		bool Save(const FString& Filename);
 

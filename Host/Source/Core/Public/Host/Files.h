@@ -21,6 +21,15 @@ namespace Host
 		 */
 		CORE_API static bool Write(const FString& Filename, const void* Bytes, int64 Size, FString& OutReason);
 
+		/**
+		 * Gives a file another name beside it, its own with the suffix behind it, and a number when that is taken; a link stays,
+		 * and what it leads to gets the name. Returns false, with the reason, when it is no file or keeps its name.
+		 */
+		CORE_API static bool SetAside(const FString& Filename, const TCHAR* Suffix, FString& OutName, FString& OutReason);
+
+		/** Whether nothing is there, not even a link to nowhere. */
+		CORE_API static bool IsAbsent(const FString& Path);
+
 		/** The path with every link followed; empty when nothing is there. */
 		CORE_API static FString Resolve(const FString& Path);
 	};

@@ -3,6 +3,11 @@
 #include "Containers/Array.h"
 #include "Containers/UnrealString.h"
 
+namespace Host
+{
+	class FConfigFiles;
+}
+
 /**
  * Configuration by name, section and key. A name such as "Game" stands for layers of files, each changing what the
  * ones before it said:
@@ -61,6 +66,8 @@ public:
 	CORE_API void Flush(bool bRemoveFromCache, const FString& Filename = FString());
 
 private:
+	friend class Host::FConfigFiles;
+
 	struct FContent;
 	FContent& GetContent();
 

@@ -1,6 +1,7 @@
 #include "Sdl/SdlGlContext.h"
 
 #include "HAL/IConsoleManager.h"
+#include "RendererLog.h"
 #include "Sdl/SdlLibrary.h"
 
 namespace Host
@@ -72,7 +73,8 @@ namespace Host
 			{
 				if (const int32 Wanted = VSync.GetValueOnGameThread() != 0 ? 1 : 0; Wanted != SwapInterval)
 				{
-					FSdl::Get().GL_SetSwapInterval(Wanted);
+					const bool bSet = FSdl::Get().GL_SetSwapInterval(Wanted) == 0;
+					UE_CLOG(!bSet && Wanted != 0, LogSlateRenderer, Warning, TEXT("r.VSync: pictures do not wait for the screen: %s"), *FSdl::Get().GetErrorText());
 					SwapInterval = Wanted;
 				}
 				FSdl::Get().GL_SwapWindow(static_cast<SDL_Window*>(NativeWindow));

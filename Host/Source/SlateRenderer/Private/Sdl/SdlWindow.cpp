@@ -162,6 +162,19 @@ namespace Host
 		}
 	}
 
+	void FSdlWindow::CoverDesktop()
+	{
+		// Filling the screen is the window manager's work; where there is none, only size and place count.
+		const FSdl& Sdl = FSdl::Get();
+		const int Display = Sdl.GetWindowDisplayIndex(Window);
+		SDL_DisplayMode Desktop = {};
+		if (Display >= 0 && Sdl.GetDesktopDisplayMode(Display, &Desktop) == 0)
+		{
+			Sdl.SetWindowSize(Window, Desktop.w, Desktop.h);
+			Sdl.SetWindowPosition(Window, static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(Display)), static_cast<int>(SDL_WINDOWPOS_CENTERED_DISPLAY(Display)));
+		}
+	}
+
 	void FSdlWindow::SetWindowMode(EWindowMode::Type InNewWindowMode)
 	{
 		if (!Window || InNewWindowMode == Mode)
@@ -169,6 +182,10 @@ namespace Host
 			return;
 		}
 		const FSdl& Sdl = FSdl::Get();
+		if (InNewWindowMode != EWindowMode::Windowed)
+		{
+			CoverDesktop();
+		}
 		if (Sdl.SetWindowFullscreen(Window, ToFullscreenFlag(InNewWindowMode)) != 0)
 		{
 			UE_LOG(LogSlateRenderer, Warning, TEXT("The window mode was not changed: %s"), *Sdl.GetErrorText());

@@ -43,6 +43,8 @@ namespace Host
 	private:
 		bool HasFlag(uint32 Flag) const;
 		void SetPixelSize(int32 Width, int32 Height);
+		/** Makes the window, still windowed, as large as the desktop of its screen. */
+		void CoverDesktop();
 
 		SDL_Window* Window;
 		uint32 Id;
