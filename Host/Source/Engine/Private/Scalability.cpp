@@ -1,6 +1,7 @@
 #include "Scalability.h"
 
 #include "HAL/IConsoleManager.h"
+#include "Host/ConfigFiles.h"
 #include "Host/RankedSet.h"
 #include "Logging/LogMacros.h"
 #include "Misc/ConfigCacheIni.h"
@@ -74,7 +75,7 @@ namespace
 
 	void ReportRange(const FString& IniName, const TCHAR* Name, const FString& Found, float Highest, const FString& Used)
 	{
-		UE_LOG(LogCore, Warning, TEXT("%s: [%s] %s: expected 0 to %g, found %s; %s is used"), *IniName, SectionName, Name, double(Highest), *Found, *Used);
+		UE_CLOG(Host::FConfigFiles::IsFirstReport(IniName, SectionName, Name, Found), LogCore, Warning, TEXT("%s: [%s] %s: expected 0 to %g, found %s; %s is used"), *IniName, SectionName, Name, double(Highest), *Found, *Used);
 	}
 }
 

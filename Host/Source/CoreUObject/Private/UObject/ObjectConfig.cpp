@@ -37,9 +37,16 @@ namespace
 
 	void ReportBadValue(const UObject& Object, const FProperty& Property, const FConfigPlace& Place, const FString& Text, const FString& Why)
 	{
-		FString Reason = Why.TrimStartAndEnd();
+		if (!Host::FConfigFiles::IsFirstReport(Place.File, Place.Section, Property.GetName(), Text))
+		{
+			return;
+		}
+		// Enough to find it by; a damaged file can have lines of any length.
+		constexpr int32 MostShown = 100;
+		const FString Shown = Text.Len() > MostShown ? Text.Left(MostShown) + TEXT("...") : Text;
+		FString Reason = Text.Len() > MostShown ? FString() : Why.TrimStartAndEnd();
 		UE_LOG(LogUObjectGlobals, Error, TEXT("configuration %s, [%s] %s: expected %s, found '%s'%s%s; %s keeps its value"),
-			*Place.File, *Place.Section, *Property.GetName(), *Property.GetCPPType(), *Text,
+			*Place.File, *Place.Section, *Property.GetName(), *Property.GetCPPType(), *Shown,
 			Reason.IsEmpty() ? TEXT("") : TEXT(": "), *Reason, *Object.GetName());
 	}
 
@@ -193,13 +200,16 @@ void UObject::SaveConfig(uint64 Flags, const TCHAR* Filename)
 	{
 		const FConfigPlace Place = PlaceOf(*this, Class, Property, Filename);
 		File = Place.File;
-		// What the lower layers say already is not repeated above them, where it would hide their later changes.
-		GConfig->RemoveKey(*Place.Section, *Key, Place.File);
-		TArray<FString> Lower;
-		GConfig->GetArray(*Place.Section, *Key, Lower, Place.File);
-		if (Lower == Lines)
+		if (!Class->HasAnyClassFlags(CLASS_ConfigDoNotCheckDefaults))
 		{
-			return;
+			// What the lower layers say already is not repeated above them, where it would hide their later changes.
+			GConfig->RemoveKey(*Place.Section, *Key, Place.File);
+			TArray<FString> Lower;
+			GConfig->GetArray(*Place.Section, *Key, Lower, Place.File);
+			if (Lower == Lines)
+			{
+				return;
+			}
 		}
 		if (Property.IsA<FArrayProperty>())
 		{

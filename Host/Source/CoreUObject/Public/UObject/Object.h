@@ -150,7 +150,8 @@ public:
 
 	/**
 	 * Writes the properties marked Config to the user's file of the class's configuration, or to Filename, but for values that
-	 * the lower configuration layers give already. A class marked DefaultConfig writes to the project's file instead.
+	 * the lower configuration layers give already, which a class marked ConfigDoNotCheckDefaults writes too. A class marked
+	 * DefaultConfig writes to the project's file instead.
 	 */
 	void SaveConfig(uint64 Flags = CPF_Config, const TCHAR* Filename = nullptr);
 

@@ -97,6 +97,8 @@ enum EClassFlags : uint32
 	CLASS_HideDropDown = 0x04000000u,
 	/** Configuration is saved to the user's own file for all projects. */
 	CLASS_GlobalUserConfig = 0x08000000u,
+	/** Saves all of its configuration, whatever lower layers say. */
+	CLASS_ConfigDoNotCheckDefaults = 0x20000000u,
 	/** Has no counterpart in a header that the header tool reads. */
 	CLASS_Intrinsic = 0x10000000u,
 	/** Properties that refer to its objects own them. */
@@ -108,7 +110,7 @@ enum EClassFlags : uint32
 	CLASS_ProjectUserConfig = 0x40000000u,
 
 	/** What a derived class takes over. */
-	CLASS_Inherit = CLASS_Transient | CLASS_DefaultConfig | CLASS_Config | CLASS_PerObjectConfig | CLASS_ProjectUserConfig
+	CLASS_Inherit = CLASS_Transient | CLASS_DefaultConfig | CLASS_Config | CLASS_ConfigDoNotCheckDefaults | CLASS_PerObjectConfig | CLASS_ProjectUserConfig
 		| CLASS_GlobalUserConfig | CLASS_Interface | CLASS_DefaultToInstanced | CLASS_EditInlineNew | CLASS_Const | CLASS_CompiledFromBlueprint,
 	/** What a class made at run time takes over from its parent. */
 	CLASS_ScriptInherit = CLASS_Inherit,

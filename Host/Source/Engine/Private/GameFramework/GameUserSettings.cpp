@@ -2,6 +2,7 @@
 
 #include "Engine/Engine.h"
 #include "HAL/IConsoleManager.h"
+#include "Host/ConfigFiles.h"
 #include "Host/Displays.h"
 #include "Host/RankedSet.h"
 #include "Host/VideoModeHost.h"
@@ -13,7 +14,8 @@ namespace
 {
 	const TCHAR* const VSyncName = TEXT("r.VSync");
 
-	/** The largest side of a window that anything could show. */
+	/** The least side of a window in which a person can still find the settings, and the largest that anything could show. */
+	constexpr int32 LeastSide = 100;
 	constexpr int32 LargestSide = 16384;
 
 	/** What the command line says instead of the settings. */
@@ -32,12 +34,31 @@ namespace
 		}
 	}
 
+	/** Whether a wrong value is new: until it is saved again, every loading finds it. */
+	bool IsFirstReport(const TCHAR* Name, const FString& Found)
+	{
+		return Host::FConfigFiles::IsFirstReport(GGameUserSettingsIni, UGameUserSettings::StaticClass()->GetPathName(), Name, Found);
+	}
+
 	void ValidateNumber(const TCHAR* Name, int32& Value, int32 Least, int32 Most, int32 Used)
 	{
 		if (Value < Least || Value > Most)
 		{
-			UE_LOG(LogCore, Warning, TEXT("%s: %s: expected %d to %d, found %d; %d is used"), *GGameUserSettingsIni, Name, Least, Most, Value, Used);
+			UE_CLOG(IsFirstReport(Name, FString::FromInt(Value)), LogCore, Warning, TEXT("%s: %s: expected %d to %d, found %d; %d is used"), *GGameUserSettingsIni, Name, Least, Most, Value, Used);
 			Value = Used;
+		}
+	}
+
+	/** A size is good or bad as a whole: half of it with half of another would be one that nobody chose. */
+	void ValidateSize(const TCHAR* Name, int32& Width, int32& Height, FIntPoint Used)
+	{
+		const auto IsGood = [](int32 Side) { return Side >= LeastSide && Side <= LargestSide; };
+		if (!IsGood(Width) || !IsGood(Height))
+		{
+			UE_CLOG(IsFirstReport(Name, FString::Printf(TEXT("%dx%d"), Width, Height)), LogCore, Warning, TEXT("%s: %sX and %sY: expected %d to %d, found %d and %d; %d and %d are used"),
+				*GGameUserSettingsIni, Name, Name, LeastSide, LargestSide, Width, Height, Used.X, Used.Y);
+			Width = Used.X;
+			Height = Used.Y;
 		}
 	}
 }
@@ -73,10 +94,7 @@ void UGameUserSettings::ApplyResolutionSettings(bool bCheckForCommandLineOverrid
 	{
 		ApplyCommandLine(Mode);
 	}
-	if (Mode != Window->GetVideoMode())
-	{
-		Window->SetVideoMode(Mode);
-	}
+	Window->SetVideoMode(Mode);
 }
 
 void UGameUserSettings::ApplyNonResolutionSettings()
@@ -106,6 +124,7 @@ void UGameUserSettings::LoadSettings(bool bForceReload)
 	}
 	// A choice that the file does not know was not saved.
 	SetToDefaults();
+	UpdateVersion();
 	LoadConfig(GetClass(), *GGameUserSettingsIni);
 	Scalability::LoadState(GGameUserSettingsIni, ScalabilityQuality);
 	ValidateSettings();
@@ -123,6 +142,7 @@ void UGameUserSettings::SetToDefaults()
 	SetScreenResolution(GetDefaultResolution());
 	SetFullscreenMode(GetDefaultWindowMode());
 	ConfirmVideoMode();
+	PreferredFullscreenMode = EWindowMode::WindowedFullscreen;
 	bUseVSync = false;
 	FrameRateLimit = 0.0f;
 	AudioQualityLevel = 0;
@@ -149,16 +169,36 @@ void UGameUserSettings::ResetToCurrentSettings()
 
 void UGameUserSettings::ValidateSettings()
 {
+	if (!IsVersionValid())
+	{
+		UE_LOG(LogCore, Warning, TEXT("%s: Version: expected %u, found %u; the defaults are used, and the file is set aside"), *GGameUserSettingsIni, uint32(UE_GAMEUSERSETTINGS_VERSION), Version);
+		Host::FConfigFiles::SetAside(GGameUserSettingsIni);
+		SetToDefaults();
+		UpdateVersion();
+	}
 	const FIntPoint Default = GetDefaultResolution();
-	ValidateNumber(TEXT("ResolutionSizeX"), ResolutionSizeX, 1, LargestSide, Default.X);
-	ValidateNumber(TEXT("ResolutionSizeY"), ResolutionSizeY, 1, LargestSide, Default.Y);
-	ValidateNumber(TEXT("LastUserConfirmedResolutionSizeX"), LastUserConfirmedResolutionSizeX, 1, LargestSide, Default.X);
-	ValidateNumber(TEXT("LastUserConfirmedResolutionSizeY"), LastUserConfirmedResolutionSizeY, 1, LargestSide, Default.Y);
+	ValidateSize(TEXT("ResolutionSize"), ResolutionSizeX, ResolutionSizeY, Default);
+	ValidateSize(TEXT("LastUserConfirmedResolutionSize"), LastUserConfirmedResolutionSizeX, LastUserConfirmedResolutionSizeY, Default);
 	ValidateNumber(TEXT("FullscreenMode"), FullscreenMode, EWindowMode::Fullscreen, EWindowMode::Windowed, EWindowMode::Windowed);
 	ValidateNumber(TEXT("LastConfirmedFullscreenMode"), LastConfirmedFullscreenMode, EWindowMode::Fullscreen, EWindowMode::Windowed, EWindowMode::Windowed);
 	ValidateNumber(TEXT("PreferredFullscreenMode"), PreferredFullscreenMode, EWindowMode::Fullscreen, EWindowMode::WindowedFullscreen, EWindowMode::WindowedFullscreen);
 	ValidateNumber(TEXT("AudioQualityLevel"), AudioQualityLevel, 0, MAX_int32, 0);
+	if (!FMath::IsFinite(FrameRateLimit) || FrameRateLimit < 0.0f)
+	{
+		UE_CLOG(IsFirstReport(TEXT("FrameRateLimit"), FString::SanitizeFloat(FrameRateLimit)), LogCore, Warning, TEXT("%s: FrameRateLimit: expected 0 or more frames a second, found %g; 0 is used"), *GGameUserSettingsIni, double(FrameRateLimit));
+		FrameRateLimit = 0.0f;
+	}
 	ScalabilityQuality.Clamp();
+}
+
+bool UGameUserSettings::IsVersionValid()
+{
+	return Version == UE_GAMEUSERSETTINGS_VERSION;
+}
+
+void UGameUserSettings::UpdateVersion()
+{
+	Version = UE_GAMEUSERSETTINGS_VERSION;
 }
 
 bool UGameUserSettings::IsDirty() const
@@ -169,7 +209,7 @@ bool UGameUserSettings::IsDirty() const
 bool UGameUserSettings::IsScreenResolutionDirty() const
 {
 	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
-	return Window && Window->GetVideoMode().Size != GetScreenResolution();
+	return Window && GetFullscreenMode() != EWindowMode::WindowedFullscreen && Window->GetVideoMode().Size != GetScreenResolution();
 }
 
 bool UGameUserSettings::IsFullscreenModeDirty() const
@@ -214,13 +254,13 @@ FIntPoint UGameUserSettings::GetDefaultResolution()
 {
 	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
 	const Host::FDisplayMode Desktop = Host::FDisplays::GetDesktopMode();
-	return Window ? Window->GetVideoMode().Size : FIntPoint(Desktop.Width, Desktop.Height);
+	return Window ? Window->GetDefaultVideoMode().Size : FIntPoint(Desktop.Width, Desktop.Height);
 }
 
 EWindowMode::Type UGameUserSettings::GetDefaultWindowMode()
 {
 	const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get();
-	return Window ? Window->GetVideoMode().WindowMode : EWindowMode::Windowed;
+	return Window ? Window->GetDefaultVideoMode().WindowMode : EWindowMode::WindowedFullscreen;
 }
 
 void UGameUserSettings::SetFullscreenMode(EWindowMode::Type InFullscreenMode)

@@ -2,6 +2,7 @@
 
 #include "HAL/IConsoleManager.h"
 #include "Host/Displays.h"
+#include "Host/VideoModeHost.h"
 #include "Logging/LogMacros.h"
 #include "Misc/StringOutputDevice.h"
 
@@ -63,6 +64,12 @@ bool UKismetSystemLibrary::GetSupportedFullscreenResolutions(TArray<FIntPoint>& 
 		// The same size stands there once for each rate.
 		Resolutions.AddUnique(FIntPoint(Mode.Width, Mode.Height));
 	}
+	if (const Host::FVideoModeHost* const Window = Host::FVideoModeHost::Get())
+	{
+		// Whoever chooses among these finds what there is now.
+		Resolutions.AddUnique(Window->GetVideoMode().Size);
+	}
+	Resolutions.Sort([](const FIntPoint& A, const FIntPoint& B) { return A.X != B.X ? A.X < B.X : A.Y < B.Y; });
 	return !Resolutions.IsEmpty();
 }
 

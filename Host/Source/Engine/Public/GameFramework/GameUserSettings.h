@@ -6,12 +6,21 @@
 #include "UObject/Object.h"
 #include "GameUserSettings.generated.h"
 
+/** Of the saved values: what they mean changes with it. */
+enum EGameUserSettingsVersion
+{
+	UE_GAMEUSERSETTINGS_VERSION = 5
+};
+
 /**
  * What the user has chosen for screen, picture and sound. Setters change this object alone; applying brings the values to
  * the window and the console variables, saving to the configuration GameUserSettings: [/Script/Engine.GameUserSettings], and
  * [ScalabilityGroups] for the levels of quality.
+ *
+ * A window's mode and size that the user has not confirmed end with a program that dies: the next one starts with those
+ * confirmed last. A program that ends as it should confirms what it has applied and saved.
  */
-UCLASS(Config = GameUserSettings)
+UCLASS(Config = GameUserSettings, ConfigDoNotCheckDefaults)
 class ENGINE_API UGameUserSettings : public UObject
 {
 	GENERATED_BODY()
@@ -49,7 +58,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	virtual void SaveSettings();
 
-	/** The window as it is, the quality of a new program. */
+	/** What a user has who has chosen nothing: the window with which the program starts, no waiting, no limit, epic quality. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	virtual void SetToDefaults();
 
@@ -57,13 +66,17 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	virtual void ResetToCurrentSettings();
 
-	/** Brings every value into its range, with a warning for each that is not: files can be written by hand. */
+	/**
+	 * Brings every value into its range, with a warning for each that is not: files can be written by hand. Values of another
+	 * version are no longer understood: with one warning they become the defaults, and the user's file is set aside.
+	 */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	virtual void ValidateSettings();
 
 	/** Whether the window, or its waiting on the screen, differs from what is chosen here. */
 	UFUNCTION(BlueprintPure, Category = "Settings")
 	virtual bool IsDirty() const;
+	/** Never for a borderless window, which takes the size of the desktop whatever is chosen. */
 	UFUNCTION(BlueprintPure, Category = "Settings")
 	bool IsScreenResolutionDirty() const;
 	UFUNCTION(BlueprintPure, Category = "Settings")
@@ -78,7 +91,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void RevertVideoMode();
 
-	/** In pixels; both at least 1 when validated. */
+	/** In pixels; both 100 to 16384 when validated. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void SetScreenResolution(FIntPoint Resolution);
 	UFUNCTION(BlueprintPure, Category = "Settings")
@@ -87,10 +100,10 @@ public:
 	FIntPoint GetLastConfirmedScreenResolution() const { return FIntPoint(LastUserConfirmedResolutionSizeX, LastUserConfirmedResolutionSizeY); }
 	UFUNCTION(BlueprintPure, Category = "Settings")
 	FIntPoint GetDesktopResolution() const;
-	/** The window's size when it is known, else the desktop's. */
+	/** The size with which the program opens its window; the desktop's without a window. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	static FIntPoint GetDefaultResolution();
-	/** The window's mode when it is known, else windowed. */
+	/** The mode with which the program opens its window; borderless without one. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	static EWindowMode::Type GetDefaultWindowMode();
 
@@ -110,7 +123,7 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Settings")
 	bool IsVSyncEnabled() const { return bUseVSync; }
 
-	/** Frames a second at most; 0, or less, for no limit. */
+	/** Frames a second at most; 0 for no limit. */
 	UFUNCTION(BlueprintCallable, Category = "Settings")
 	void SetFrameRateLimit(float NewLimit) { FrameRateLimit = NewLimit; }
 	UFUNCTION(BlueprintPure, Category = "Settings")
@@ -198,6 +211,13 @@ protected:
 	/** What is applied of the limit: a program may know better in some places of its own. */
 	virtual float GetEffectiveFrameRateLimit();
 
+	/** Whether the values are of the version that the program understands; a file that names none has such values. */
+	virtual bool IsVersionValid();
+	/** Calls the values ones of that version. */
+	virtual void UpdateVersion();
+
+	UPROPERTY(Config)
+	uint32 Version = 0;
 	UPROPERTY(Config)
 	int32 ResolutionSizeX = 0;
 	UPROPERTY(Config)

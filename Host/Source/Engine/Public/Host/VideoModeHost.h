@@ -23,7 +23,10 @@ namespace Host
 
 		virtual FVideoMode GetVideoMode() const = 0;
 
-		/** A borderless window gets the size of the desktop, whatever the mode says. */
+		/** What the program opens its window with for a user who has chosen nothing. */
+		virtual FVideoMode GetDefaultVideoMode() const = 0;
+
+		/** A borderless window gets the size of the desktop, whatever the mode says. What is so already stays as it is. */
 		virtual void SetVideoMode(const FVideoMode& Mode) = 0;
 
 		/** Null in a program without a window. */

@@ -27,7 +27,7 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Development")
 	static FString GetConsoleVariableStringValue(const FString& VariableName);
 
-	/** The resolutions of the main screen, each once, the smallest first. False, with an empty list, when it has none. */
+	/** The resolutions of the main screen, and the one that the window has now, each once, the smallest first. False, with an empty list, when there is none. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering")
 	static bool GetSupportedFullscreenResolutions(TArray<FIntPoint>& Resolutions);
 

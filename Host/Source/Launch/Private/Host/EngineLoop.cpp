@@ -36,6 +36,12 @@ namespace Host
 		constexpr double CollectionInterval = 30.0;
 		/** Length of the frames of a headless program: what a screen would give it. */
 		constexpr double HeadlessFrame = 1.0 / 60.0;
+
+		bool HasUnconfirmedMode(const UGameUserSettings& UserSettings)
+		{
+			return UserSettings.GetScreenResolution() != UserSettings.GetLastConfirmedScreenResolution()
+				|| UserSettings.GetFullscreenMode() != UserSettings.GetLastConfirmedFullscreenMode();
+		}
 	}
 
 	FEngineLoop::FEngineLoop() = default;
@@ -80,6 +86,7 @@ namespace Host
 		GEngine->Init();
 		StartWindow();
 		ApplyUserSettings();
+		StartMode = VideoMode->GetAskedMode();
 		LastCollection = FClock::Now();
 		return true;
 	}
@@ -134,16 +141,44 @@ namespace Host
 
 	void FEngineLoop::ApplyUserSettings()
 	{
+		if (GEngine->GameUserSettings)
+		{
+			// Whoever asked for them earlier got them without a window.
+			GEngine->GameUserSettings->LoadSettings();
+		}
 		UGameUserSettings* const UserSettings = GEngine->GetGameUserSettings();
 		// Before the user has saved anything the program decides; and what is made without a screen must not depend on who makes it.
 		if (Settings.bHeadless || !GConfig->DoesSectionExist(*UGameUserSettings::StaticClass()->GetPathName(), GGameUserSettingsIni))
 		{
 			return;
 		}
+		if (HasUnconfirmedMode(*UserSettings))
+		{
+			UE_LOG(LogCore, Log, TEXT("The program ended before its video mode was confirmed: the one before it is used"));
+			UserSettings->RevertVideoMode();
+			UserSettings->SaveSettings();
+		}
 		UserSettings->ApplyNonResolutionSettings();
 		if (!Settings.bKeepWindowSize)
 		{
 			UserSettings->ApplyResolutionSettings(true);
+		}
+	}
+
+	void FEngineLoop::ConfirmVideoMode()
+	{
+		if (!VideoMode || Settings.bHeadless || VideoMode->GetAskedMode() == StartMode)
+		{
+			return;
+		}
+		// What was chosen, but not applied or not saved, is no part of it.
+		UGameUserSettings* const Saved = GEngine->GetGameUserSettings();
+		Saved->LoadSettings();
+		const FVideoMode SavedMode{ Saved->GetScreenResolution(), Saved->GetFullscreenMode() };
+		if (SavedMode == VideoMode->GetAskedMode() && HasUnconfirmedMode(*Saved))
+		{
+			Saved->ConfirmVideoMode();
+			Saved->SaveSettings();
 		}
 	}
 
@@ -293,6 +328,8 @@ namespace Host
 		if (GEngine)
 		{
 			GEngine->PreExit();
+			// After the widgets have gone, which may have put another mode back.
+			ConfirmVideoMode();
 		}
 		VideoMode.Reset();
 		Window.Reset();

@@ -16,6 +16,8 @@ namespace Host
 
 	FWindowVideoMode::FWindowVideoMode(const TSharedRef<SWindow>& InWindow)
 		: Window(InWindow)
+		, DefaultMode(GetVideoMode())
+		, AskedMode(DefaultMode)
 	{
 		FVideoModeHost::Set(this);
 	}
@@ -35,6 +37,7 @@ namespace Host
 
 	void FWindowVideoMode::SetVideoMode(const FVideoMode& Mode)
 	{
+		AskedMode = Mode;
 		Window->SetWindowMode(Mode.WindowMode);
 		const TSharedPtr<FGenericWindow> Native = Window->GetNativeWindow();
 		if (Mode.WindowMode != EWindowMode::WindowedFullscreen)

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Host/PictureCompare.h"
 #include "Host/RendererChoice.h"
+#include "Host/VideoModeHost.h"
 
 class FSlateRenderer;
 class SWindow;
@@ -76,6 +77,8 @@ namespace Host
 		void StartWindow();
 		/** Brings what the user saved to the window, where people see it. */
 		void ApplyUserSettings();
+		/** Confirms the video mode in which the user has got as far as the end of the program. */
+		void ConfirmVideoMode();
 		/** Until something is due; negative when nothing is. */
 		double GetSecondsUntilNextFrame() const;
 		/** As GetSecondsUntilNextFrame, but not before the screen can show another frame than that of the given start. */
@@ -90,6 +93,8 @@ namespace Host
 		TSharedPtr<FSlateRenderer> Renderer;
 		TSharedPtr<SWindow> Window;
 		TUniquePtr<FWindowVideoMode> VideoMode;
+		/** In which the user found the window. */
+		FVideoMode StartMode;
 		double LastCollection = 0.0;
 		int32 ExitCode = 0;
 		bool bStarted = false;

@@ -38,6 +38,11 @@ namespace Host
 
 	void FDisplays::Set(TArray<FDisplayMode> Modes, const FDisplayMode& Desktop)
 	{
+		// Systems leave out the mode in which they are, when it was not made for the screen.
+		if (!Modes.ContainsByPredicate([&Desktop](const FDisplayMode& Mode) { return Mode.Width == Desktop.Width && Mode.Height == Desktop.Height; }))
+		{
+			Modes.Add(Desktop);
+		}
 		Modes.Sort(IsSmaller);
 		FDisplayState& State = GetState();
 		State.Modes.Reset();

@@ -25,7 +25,7 @@ namespace Host
 		/** The mode of the desktop. Without a screen: 1920 x 1080. */
 		static FDisplayMode GetDesktopMode();
 
-		/** To be called by whoever finds out about screens. Sorts the modes and drops repeated ones. */
+		/** To be called by whoever finds out about screens. Sorts the modes and drops repeated ones; that of the desktop is always among them. */
 		static void Set(TArray<FDisplayMode> Modes, const FDisplayMode& Desktop);
 
 		/** Back to having no screen. */
