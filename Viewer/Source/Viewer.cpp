@@ -4,6 +4,7 @@
 #include "Engine/Engine.h"
 #include "Engine/Font.h"
 #include "Engine/GameInstance.h"
+#include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
 #include "HalvexProUISettings.h"
 #include "HalvexUISubsystem.h"
@@ -11,6 +12,8 @@
 #include "Host/DumpWidgetTree.h"
 #include "Host/FontServices.h"
 #include "Host/PictureCompare.h"
+#include "Host/SSceneViewport.h"
+#include "Host/SampleScene.h"
 #include "Misc/App.h"
 #include "Misc/Paths.h"
 #include "Style/HalvexUIStyleConfiguration.h"
@@ -26,6 +29,9 @@ namespace
 
 	/** How long a written file may take to show at design time. */
 	constexpr float SecondsBetweenLooks = 0.5f;
+
+	/** Place of the scene among what the viewport shows: below everything. */
+	constexpr int32 SceneOrder = -1000000;
 
 	bool HasDisplay()
 	{
@@ -87,6 +93,7 @@ int32 FViewer::Run()
 		ExitCode = RunScreen();
 	}
 	Designer.Reset();
+	Scene.Reset();
 	Loop.Exit();
 	return ExitCode == 0 && Options.bHeadless && Errors.NumErrors > 0 ? 1 : ExitCode;
 }
@@ -139,7 +146,11 @@ void FViewer::UseProjectFont()
 
 int32 FViewer::RunScreen()
 {
-	if (Options.bDesign ? !ShowDesign() : !ViewerScreens::Show(Options.Screen))
+	if (!Options.Scene.IsEmpty())
+	{
+		ShowScene();
+	}
+	if (!Options.Screen.IsEmpty() && (Options.bDesign ? !ShowDesign() : !ViewerScreens::Show(Options.Screen)))
 	{
 		return 1;
 	}
@@ -157,6 +168,17 @@ int32 FViewer::RunScreen()
 		Print(Host::DumpWidgetTree(Loop.GetWindow().ToSharedRef()));
 	}
 	return Options.Screenshot.IsEmpty() || WritePicture(Options.Screenshot) ? 0 : 1;
+}
+
+void FViewer::ShowScene()
+{
+	const TSharedRef<Host::FSceneContent> Content = MakeShared<Host::FSceneContent>();
+	Host::SampleScene::Build(*Content);
+	Scene = SNew(Host::SSceneViewport)
+		.Content(Content)
+		.WindowRenderer(Loop.GetRenderer());
+	Scene->MoveCamera([](Host::FSceneCamera& Camera) { Camera.JumpTo(Host::SampleScene::GetPose()); });
+	GEngine->GameViewport->AddViewportWidgetContent(Scene.ToSharedRef(), SceneOrder);
 }
 
 bool FViewer::ShowDesign()

@@ -6,6 +6,11 @@
 #include "Host/WidgetDesigner.h"
 #include "ViewerOptions.h"
 
+namespace Host
+{
+	class SSceneViewport;
+}
+
 /** The application: shows one screen in a window, or does what was asked for without one. */
 class FViewer
 {
@@ -32,6 +37,8 @@ private:
 	/** Tool tips, menus and other text that names no font is drawn in the project's. */
 	void UseProjectFont();
 	int32 RunScreen();
+	/** Shows the 3D scene under all screens. */
+	void ShowScene();
 	/** Shows the screen at design time. */
 	bool ShowDesign();
 	bool WritePicture(const FString& File);
@@ -44,6 +51,8 @@ private:
 	Host::FEngineLoop Loop;
 	/** Set while a screen is shown at design time; gone before the engine stops. */
 	TUniquePtr<Host::FWidgetDesigner> Designer;
+	/** Set while a 3D scene is shown; gone before the engine stops. */
+	TSharedPtr<Host::SSceneViewport> Scene;
 	/** True when a window was wanted and there is no display. */
 	bool bNoDisplay = false;
 };

@@ -39,12 +39,15 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	App.failure_message([](const CLI::App*, const CLI::Error& Error) { return std::string("HalvexViewer: ") + Error.what() + " (--help lists the arguments)\n"; });
 
 	std::string Screen = "Gallery";
+	std::string Scene;
 	std::string Style;
 	std::string Size;
 	std::string Renderer = "auto";
 	std::string Screenshot;
 	std::string Script;
-	App.add_option("--screen", Screen, "Screen to show")->type_name("NAME");
+	const CLI::Option* const ScreenOption = App.add_option("--screen", Screen, "Screen to show")->type_name("NAME");
+	const CLI::Option* const SceneOption = App.add_option("--scene", Scene, "3D scene to show under the screen, or alone when no screen is named")
+		->type_name("sample")->check(CLI::IsMember({ "sample" }));
 	App.add_flag("--list-screens", OutOptions.bListScreens, "List the screens and end");
 	App.add_option("--style", Style, "Style configuration to use instead of the project's")->type_name("OBJECTPATH");
 	App.add_option("--size", Size, "Size of the window in pixels")->type_name("WxH")->check([](const std::string& Text)
@@ -69,7 +72,9 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 		return App.exit(Error, std::cout, std::cerr) == 0 ? EViewerStart::Done : EViewerStart::Refused;
 	}
 
-	OutOptions.Screen = ToFString(Screen);
+	const bool bSceneAlone = SceneOption->count() > 0 && ScreenOption->count() == 0;
+	OutOptions.Screen = bSceneAlone ? FString() : ToFString(Screen);
+	OutOptions.Scene = ToFString(Scene);
 	OutOptions.Style = ToFString(Style);
 	OutOptions.Screenshot = ToFString(Screenshot);
 	OutOptions.Script = ToFString(Script);

@@ -6,8 +6,10 @@
 /** What the command line says. */
 struct FViewerOptions
 {
-	/** Name of the screen to show. */
+	/** Name of the screen to show; empty for none. */
 	FString Screen = TEXT("Gallery");
+	/** Name of the 3D scene to show under the screen; empty for none. */
+	FString Scene;
 	bool bListScreens = false;
 	/** Object path of the style configuration; empty for the one of the project settings. */
 	FString Style;

@@ -34,6 +34,9 @@ namespace Host
 			return Display != EGL_NO_DISPLAY && eglInitialize(Display, nullptr, nullptr) ? Display : EGL_NO_DISPLAY;
 		}
 
+		/** Contexts on the display, which all share: it goes with the last of them. */
+		int32 NumContexts = 0;
+
 		class FEglContext final : public FGlContext
 		{
 		public:
@@ -43,7 +46,10 @@ namespace Host
 				{
 					return;
 				}
-				eglMakeCurrent(Display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+				if (eglGetCurrentContext() == Context)
+				{
+					eglMakeCurrent(Display, EGL_NO_SURFACE, EGL_NO_SURFACE, EGL_NO_CONTEXT);
+				}
 				if (Surface != EGL_NO_SURFACE)
 				{
 					eglDestroySurface(Display, Surface);
@@ -52,7 +58,10 @@ namespace Host
 				{
 					eglDestroyContext(Display, Context);
 				}
-				eglTerminate(Display);
+				if (--NumContexts == 0)
+				{
+					eglTerminate(Display);
+				}
 			}
 
 			bool Open(FString& OutError)
@@ -68,6 +77,7 @@ namespace Host
 					OutError = TEXT("EGL offers no display");
 					return false;
 				}
+				++NumContexts;
 				return MakeContext(OutError) && MakeCurrent(nullptr, OutError);
 			}
 

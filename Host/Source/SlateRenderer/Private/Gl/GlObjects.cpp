@@ -16,6 +16,7 @@ namespace Host
 			{ TEXT("textures"), GL_TEXTURE },
 			{ TEXT("samplers"), GL_SAMPLER },
 			{ TEXT("framebuffers"), GL_FRAMEBUFFER },
+			{ TEXT("renderbuffers"), GL_RENDERBUFFER },
 			{ TEXT("programs"), GL_PROGRAM },
 		};
 		static_assert(UE_ARRAY_COUNT(Kinds) == static_cast<int32>(EGlObjectKind::Program) + 1);
@@ -41,6 +42,9 @@ namespace Host
 				break;
 			case EGlObjectKind::Framebuffer:
 				glGenFramebuffers(1, &Name);
+				break;
+			case EGlObjectKind::Renderbuffer:
+				glGenRenderbuffers(1, &Name);
 				break;
 			case EGlObjectKind::Program:
 			default:
@@ -69,6 +73,9 @@ namespace Host
 			case EGlObjectKind::Framebuffer:
 				glDeleteFramebuffers(1, &Name);
 				break;
+			case EGlObjectKind::Renderbuffer:
+				glDeleteRenderbuffers(1, &Name);
+				break;
 			case EGlObjectKind::Program:
 			default:
 				glDeleteProgram(Name);
@@ -94,6 +101,10 @@ namespace Host
 			else if (Kind == EGlObjectKind::Framebuffer)
 			{
 				glBindFramebuffer(GL_FRAMEBUFFER, Name);
+			}
+			else if (Kind == EGlObjectKind::Renderbuffer)
+			{
+				glBindRenderbuffer(GL_RENDERBUFFER, Name);
 			}
 		}
 	}

@@ -12,6 +12,7 @@ namespace Host
 		Texture,
 		Sampler,
 		Framebuffer,
+		Renderbuffer,
 		Program,
 	};
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "Gl/GlProgram.h"
 #include "Gl/GlShaders.h"
 #include "Host/ClipState.h"
 #include "Rendering/SlateRenderer.h"
@@ -14,47 +15,6 @@ namespace Host
 		constexpr GLint AtlasUnit = 1;
 		constexpr GLuint NumVectorAttributes = 6;
 		constexpr GLuint WordsAttribute = 6;
-
-		FString GetShaderLog(GLuint Shader)
-		{
-			ANSICHAR Text[1024] = {};
-			glGetShaderInfoLog(Shader, sizeof(Text) - 1, nullptr, Text);
-			return FString(UTF8_TO_TCHAR(Text));
-		}
-
-		bool Attach(GLuint Program, GLenum Type, const ANSICHAR* Source, FString& OutError)
-		{
-			const GLuint Shader = glCreateShader(Type);
-			glShaderSource(Shader, 1, &Source, nullptr);
-			glCompileShader(Shader);
-			GLint bCompiled = 0;
-			glGetShaderiv(Shader, GL_COMPILE_STATUS, &bCompiled);
-			if (bCompiled)
-			{
-				glAttachShader(Program, Shader);
-			}
-			else
-			{
-				OutError = FString::Printf(TEXT("the driver refuses a shader: %s"), *GetShaderLog(Shader));
-			}
-			// The program keeps what is attached to it.
-			glDeleteShader(Shader);
-			return bCompiled != 0;
-		}
-
-		bool Link(GLuint Program, FString& OutError)
-		{
-			glLinkProgram(Program);
-			GLint bLinked = 0;
-			glGetProgramiv(Program, GL_LINK_STATUS, &bLinked);
-			if (!bLinked)
-			{
-				ANSICHAR Text[1024] = {};
-				glGetProgramInfoLog(Program, sizeof(Text) - 1, nullptr, Text);
-				OutError = FString::Printf(TEXT("the driver cannot link the shaders: %s"), *FString(UTF8_TO_TCHAR(Text)));
-			}
-			return bLinked != 0;
-		}
 
 		FGlObject MakeSampler(const ANSICHAR* Label, GLint Wrap)
 		{
@@ -69,9 +29,8 @@ namespace Host
 
 	bool FGlPipeline::Create(FString& OutError)
 	{
-		Program = FGlObject(EGlObjectKind::Program, "Slate elements");
-		if (!Attach(Program.Get(), GL_VERTEX_SHADER, GlShaders::Vertex, OutError) || !Attach(Program.Get(), GL_FRAGMENT_SHADER, GlShaders::Fragment, OutError)
-			|| !Link(Program.Get(), OutError))
+		Program = MakeGlProgram("Slate elements", { GlShaders::Vertex }, { GlShaders::Fragment }, OutError);
+		if (!Program.IsValid())
 		{
 			return false;
 		}

@@ -1,0 +1,85 @@
+#include "Host/PictureCompare.h"
+
+#include "gtest/gtest.h"
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace
+{
+	/** A run of the viewer as a program of its own: there is one renderer in a program. */
+	struct FViewerRun
+	{
+		int ExitCode = -1;
+		std::string Log;
+		Host::FPicture Picture;
+	};
+
+	FViewerRun RunViewer(const std::string& Environment, const std::string& Arguments)
+	{
+		const std::filesystem::path Base = std::filesystem::temp_directory_path() / ("ViewerScene" + std::to_string(::getpid()));
+		const std::string PictureFile = Base.string() + ".png";
+		const std::string LogFile = Base.string() + ".log";
+		// Graphics drivers keep a few buffers of their own until the program ends, which are no leaks of the viewer.
+		const std::string Command = Environment + " ASAN_OPTIONS=detect_leaks=0 " HALVEX_VIEWER " --headless --size 480x300 " + Arguments + " --screenshot " + PictureFile
+			+ " > " + LogFile + " 2>&1";
+		FViewerRun Run;
+		Run.ExitCode = std::system(Command.c_str());
+		std::ifstream Stream(LogFile);
+		std::stringstream Text;
+		Text << Stream.rdbuf();
+		Run.Log = Text.str();
+		FString Error;
+		EXPECT_TRUE(Host::LoadPicture(UTF8_TO_TCHAR(PictureFile.c_str()), Run.Picture, Error)) << TCHAR_TO_UTF8(*Error) << "\n" << Run.Log;
+		std::filesystem::remove(PictureFile);
+		std::filesystem::remove(LogFile);
+		return Run;
+	}
+
+	int32 CountColours(const Host::FPicture& Picture)
+	{
+		TSet<FColor> Colours;
+		for (const FColor& Pixel : Picture.Pixels)
+		{
+			Colours.Add(Pixel);
+		}
+		return Colours.Num();
+	}
+}
+
+TEST(ViewerScene, BothRenderersShowTheSamePicture)
+{
+	const FViewerRun Cpu = RunViewer("", "--renderer cpu --scene sample");
+	const FViewerRun Gl = RunViewer("", "--renderer gl --scene sample");
+	ASSERT_EQ(Cpu.ExitCode, 0) << Cpu.Log;
+	ASSERT_EQ(Gl.ExitCode, 0) << Gl.Log;
+
+	constexpr int32 Tolerance = 2;
+	const Host::FPictureDifference Difference = Host::ComparePictures(Cpu.Picture, Gl.Picture, Tolerance);
+	EXPECT_TRUE(Difference.IsSame()) << TCHAR_TO_UTF8(*Difference.ToString());
+	EXPECT_GT(CountColours(Cpu.Picture), 1000) << "there is a scene in it";
+}
+
+TEST(ViewerScene, WithoutADriverThereIsAPlainBackgroundAndOneLine)
+{
+	const FViewerRun Run = RunViewer("__EGL_VENDOR_LIBRARY_DIRS=/nonexistent", "--renderer cpu --scene sample");
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Log;
+	EXPECT_EQ(CountColours(Run.Picture), 1);
+	const size_t Line = Run.Log.find("The 3D scene is not shown");
+	ASSERT_NE(Line, std::string::npos) << Run.Log;
+	EXPECT_EQ(Run.Log.find("The 3D scene", Line + 1), std::string::npos) << Run.Log;
+}
+
+TEST(ViewerScene, AScreenLiesOverTheScene)
+{
+	const FViewerRun Run = RunViewer("", "--renderer cpu --scene sample --screen Gallery");
+	const FViewerRun Alone = RunViewer("", "--renderer cpu --screen Gallery");
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Log;
+	EXPECT_TRUE(Host::ComparePictures(Alone.Picture, Run.Picture).IsSame()) << "the gallery has a background of its own";
+}

@@ -1,0 +1,91 @@
+#include "Host/SSceneViewport.h"
+
+#include "Brushes/SlateColorBrush.h"
+#include "Host/Texture.h"
+#include "Layout/PaintGeometry.h"
+#include "Rendering/DrawElements.h"
+
+namespace Host
+{
+	namespace
+	{
+		/** Shown where no scene can be. */
+		const FLinearColor PlainBackground(0.34f, 0.38f, 0.42f);
+
+		FIntPoint GetPixelSize(const FGeometry& Geometry)
+		{
+			const FVector2D Size(Geometry.GetDrawSize());
+			return FIntPoint(FMath::RoundToInt32(Size.X), FMath::RoundToInt32(Size.Y));
+		}
+	}
+
+	SSceneViewport::SSceneViewport()
+		: Quality(FSimpleDelegate::CreateLambda([this] { Invalidate(EInvalidateWidgetReason::Paint); }))
+	{
+	}
+
+	void SSceneViewport::Construct(const FArguments& InArgs)
+	{
+		Content = InArgs._Content.IsValid() ? InArgs._Content : MakeShared<FSceneContent>();
+		Picture = MakeUnique<FScenePicture>(InArgs._WindowRenderer);
+		Camera.SetBounds(Content->GetBounds());
+		Camera.Finish();
+	}
+
+	void SSceneViewport::ContentChanged()
+	{
+		MoveCamera([this](FSceneCamera& Moved) { Moved.SetBounds(Content->GetBounds()); });
+	}
+
+	void SSceneViewport::MoveCamera(TFunctionRef<void(FSceneCamera&)> Move)
+	{
+		Move(Camera);
+		Invalidate(EInvalidateWidgetReason::Paint);
+		if (Camera.IsMoving() && !EasingTimer.IsValid())
+		{
+			EasingTimer = RegisterActiveTimer(0.0f, FWidgetActiveTimerDelegate::CreateSP(this, &SSceneViewport::Ease));
+		}
+	}
+
+	EActiveTimerReturnType SSceneViewport::Ease(double, float DeltaTime)
+	{
+		if (Camera.Tick(DeltaTime))
+		{
+			Invalidate(EInvalidateWidgetReason::Paint);
+		}
+		return Camera.IsMoving() ? EActiveTimerReturnType::Continue : EActiveTimerReturnType::Stop;
+	}
+
+	double SSceneViewport::GetAspectRatio() const
+	{
+		const FVector2D Size(GetCachedGeometry().GetLocalSize());
+		return Size.X > 0.0 && Size.Y > 0.0 ? Size.X / Size.Y : 1.0;
+	}
+
+	FVector2D SSceneViewport::ComputeDesiredSize(float) const
+	{
+		// As large as it is given.
+		return FVector2D(0.0, 0.0);
+	}
+
+	int32 SSceneViewport::OnPaint(const FPaintArgs&, const FGeometry& AllottedGeometry, const FSlateRect&, FSlateWindowElementList& OutDrawElements, int32 LayerId,
+		const FWidgetStyle& InWidgetStyle, bool) const
+	{
+		const FIntPoint Size = GetPixelSize(AllottedGeometry);
+		if (Size.X <= 0 || Size.Y <= 0)
+		{
+			return LayerId;
+		}
+		const FLinearColor Tint = InWidgetStyle.GetColorAndOpacityTint();
+		if (const TSharedPtr<const FTexture> Texture = Picture->Update(*Content, Camera.GetView(), Size, Quality.Get()))
+		{
+			FSlateDrawElement::MakeTexture(OutDrawElements, LayerId, AllottedGeometry.ToPaintGeometry(), Texture.ToSharedRef(), ESlateDrawEffect::None, Tint);
+		}
+		else
+		{
+			const FSlateColorBrush Brush(FLinearColor::White);
+			FSlateDrawElement::MakeBox(OutDrawElements, LayerId, AllottedGeometry.ToPaintGeometry(), &Brush, ESlateDrawEffect::None, PlainBackground * Tint);
+		}
+		return LayerId;
+	}
+}

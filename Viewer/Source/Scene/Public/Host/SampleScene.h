@@ -1,0 +1,19 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/SceneCamera.h"
+
+namespace Host
+{
+	class FSceneContent;
+
+	/** A small scene to look at: a handful of apartment blocks about a green court. */
+	namespace SampleScene
+	{
+		/** Adds the blocks, and sets the environment. */
+		void Build(FSceneContent& Content);
+
+		/** From where it looks best. */
+		FSceneCamera::FPose GetPose();
+	}
+}
