@@ -151,3 +151,40 @@ TEST_F(CheckBoxTest, PreciseClickIsCancelledByADrag)
 	Release();
 	EXPECT_LOG("");
 }
+
+TEST_F(CheckBoxTest, RingIsAroundTheBoxAloneWhenNavigationGivesTheFocus)
+{
+	Box = SArgumentNew(Arguments(), SCheckBox);
+	Box->SetContent(Piece("Content", 50, 10));
+	Show(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top).Padding(10.0f)[Box.ToSharedRef()]);
+	Stroke(EKeys::Tab);
+	Frame();
+	EXPECT_EQ(FindFocusRing(), Host::FPixelRect::Make(7, 7, 29, 29));
+	App().ClearKeyboardFocus();
+	Frame();
+	EXPECT_TRUE(FindFocusRing().IsEmpty());
+	Click(Box.ToSharedRef());
+	Frame();
+	EXPECT_TRUE(Box->HasKeyboardFocus());
+	EXPECT_TRUE(FindFocusRing().IsEmpty());
+}
+
+TEST_F(CheckBoxTest, RingIsOverTheWholeOfAToggleButton)
+{
+	ShowBox(Arguments().Style(&FCoreStyle::Get().GetWidgetStyle<FCheckBoxStyle>("ToggleButtonCheckbox")));
+	Stroke(EKeys::Tab);
+	Frame();
+	EXPECT_EQ(FindFocusRing(), Host::FPixelRect::Make(0, 0, 74, 14));
+}
+
+TEST_F(CheckBoxTest, DisabledBoxStaysAsItIs)
+{
+	ShowBox(Arguments());
+	Box->SetEnabled(false);
+	Frame();
+	Click(Box.ToSharedRef());
+	Stroke(EKeys::Tab);
+	Stroke(EKeys::SpaceBar);
+	EXPECT_LOG("");
+	EXPECT_FALSE(Box->IsChecked());
+}

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "ApplicationTestTools.h"
+#include "Host/DrawElement.h"
 #include "Host/SlateCounters.h"
 #include "LayoutTestTools.h"
+#include "Styling/CoreStyle.h"
 
 /** The application with controls in its window, driven by mouse and keys. */
 class FControlTest : public FApplicationTest
@@ -57,6 +59,21 @@ protected:
 		Input();
 		App().Tick();
 		Work = Host::FSlateCounters::Get() - Before;
+	}
+
+	/** The pixels of the ring that shows where the keyboard is; empty when there is none. */
+	Host::FPixelRect FindFocusRing() const
+	{
+		const FColor Colour = FCoreStyle::Get().GetBrush("FocusRectangle")->OutlineSettings.Color.GetSpecifiedColor().ToFColorSRGB();
+		Host::FPixelRect Ring;
+		Window->GetRoot().ForEachElement(Host::FPixelRect::Everything(), [&](TConstArrayView<Host::FDrawElement> Elements)
+		{
+			for (const Host::FDrawElement& Element : Elements)
+			{
+				Ring = Element.OutlineColour == Colour ? Element.Bounds : Ring;
+			}
+		});
+		return Ring;
 	}
 
 	static FModifierKeysState Modifiers(bool bControl, bool bShift)

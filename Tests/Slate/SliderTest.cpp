@@ -102,3 +102,57 @@ TEST_F(SliderTest, ChangeFromCodeTellsNobodyAndPaintsOnly)
 	Frame();
 	EXPECT_EQ(Work.Painted, 0);
 }
+
+TEST_F(SliderTest, RingIsAroundTheHandleAndGoesWithIt)
+{
+	ShowSlider(Arguments().StepSize(0.5f));
+	Stroke(EKeys::Tab);
+	Frame();
+	EXPECT_EQ(FindFocusRing(), Host::FPixelRect::Make(0, 0, 17, 20));
+	Stroke(EKeys::Right);
+	Frame();
+	EXPECT_EQ(FindFocusRing(), Host::FPixelRect::Make(47, 0, 67, 20));
+}
+
+TEST_F(SliderTest, KeysStopAtTheEnds)
+{
+	ShowSlider(Arguments().StepSize(0.75f));
+	App().SetKeyboardFocus(Slider);
+	EXPECT_TRUE(KeyDown(EKeys::Left));
+	EXPECT_LOG("");
+	EXPECT_TRUE(KeyDown(EKeys::Right));
+	EXPECT_TRUE(KeyDown(EKeys::Right));
+	EXPECT_TRUE(KeyDown(EKeys::Right));
+	EXPECT_LOG("0.75 1");
+}
+
+TEST_F(SliderTest, KeysAcrossMoveTheFocus)
+{
+	ShowSlider(Arguments());
+	App().SetKeyboardFocus(Slider);
+	KeyDown(EKeys::Down);
+	KeyDown(EKeys::Up);
+	EXPECT_LOG("");
+}
+
+TEST_F(SliderTest, WheelIsLeftToWhatItStandsIn)
+{
+	ShowSlider(Arguments());
+	Move(57.0f, 10.0f);
+	EXPECT_FALSE(Turn(1.0f));
+	EXPECT_LOG("");
+}
+
+TEST_F(SliderTest, DisabledSliderStays)
+{
+	ShowSlider(Arguments());
+	App().SetKeyboardFocus(Slider);
+	Slider->SetEnabled(false);
+	Frame();
+	Move(57.0f, 10.0f);
+	Press();
+	Release();
+	KeyDown(EKeys::Right);
+	EXPECT_LOG("");
+	EXPECT_EQ(Slider->GetValue(), 0.0f);
+}

@@ -33,6 +33,12 @@ namespace Host
 			return Brush;
 		}
 
+		/** Darkens what is below it, so that it shows on light and on dark ground. */
+		FLinearColor Shade(float Opacity)
+		{
+			return FLinearColor(0.0f, 0.0f, 0.0f, Opacity);
+		}
+
 		FSlateBrush CheckImage(const FLinearColor& Fill, const FLinearColor& Edge)
 		{
 			return Sized(FSlateRoundedBoxBrush(Fill, 3.0f, Edge, 1.0f), 16.0f, 16.0f);
@@ -42,15 +48,15 @@ namespace Host
 		{
 			Set.Set("Checkbox", FCheckBoxStyle()
 				.SetCheckBoxType(ESlateCheckBoxType::CheckBox)
-				.SetUncheckedImage(CheckImage(Grey(15), Grey(80)))
-				.SetUncheckedHoveredImage(CheckImage(Grey(15), Grey(128)))
-				.SetUncheckedPressedImage(CheckImage(Grey(26), Grey(128)))
+				.SetUncheckedImage(CheckImage(Shade(0.1f), Grey(128)))
+				.SetUncheckedHoveredImage(CheckImage(Shade(0.1f), BrightAccent()))
+				.SetUncheckedPressedImage(CheckImage(Shade(0.3f), BrightAccent()))
 				.SetCheckedImage(FLineDrawingBrush("CheckMark", CheckImage(Accent(), Accent())))
 				.SetCheckedHoveredImage(FLineDrawingBrush("CheckMark", CheckImage(BrightAccent(), BrightAccent())))
 				.SetCheckedPressedImage(FLineDrawingBrush("CheckMark", CheckImage(Accent(), Grey(192))))
-				.SetUndeterminedImage(FLineDrawingBrush("Dash", CheckImage(Grey(80), Grey(128))))
-				.SetUndeterminedHoveredImage(FLineDrawingBrush("Dash", CheckImage(Grey(96), Grey(160))))
-				.SetUndeterminedPressedImage(FLineDrawingBrush("Dash", CheckImage(Grey(70), Grey(160))))
+				.SetUndeterminedImage(FLineDrawingBrush("Dash", CheckImage(Accent(), Accent())))
+				.SetUndeterminedHoveredImage(FLineDrawingBrush("Dash", CheckImage(BrightAccent(), BrightAccent())))
+				.SetUndeterminedPressedImage(FLineDrawingBrush("Dash", CheckImage(Accent(), Grey(192))))
 				.SetPadding(FMargin(4.0f, 0.0f, 0.0f, 0.0f))
 				.SetBackgroundImage(FSlateNoResource())
 				.SetBackgroundHoveredImage(FSlateNoResource())
@@ -78,14 +84,14 @@ namespace Host
 			Set.Set("Slider", FSliderStyle()
 				.SetNormalBarImage(FSlateColorBrush(Grey(80)))
 				.SetHoveredBarImage(FSlateColorBrush(Grey(112)))
-				.SetDisabledBarImage(FSlateColorBrush(Grey(46)))
-				.SetNormalThumbImage(Sized(FSlateRoundedBoxBrush(Grey(192), 7.0f), 14.0f, 14.0f))
-				.SetHoveredThumbImage(Sized(FSlateRoundedBoxBrush(FLinearColor::White, 7.0f), 14.0f, 14.0f))
-				.SetDisabledThumbImage(Sized(FSlateRoundedBoxBrush(Grey(96), 7.0f), 14.0f, 14.0f))
+				.SetDisabledBarImage(FSlateColorBrush(Grey(112)))
+				.SetNormalThumbImage(Sized(FSlateRoundedBoxBrush(Grey(192), 7.0f, Grey(80), 1.0f), 14.0f, 14.0f))
+				.SetHoveredThumbImage(Sized(FSlateRoundedBoxBrush(FLinearColor::White, 7.0f, BrightAccent(), 1.0f), 14.0f, 14.0f))
+				.SetDisabledThumbImage(Sized(FSlateRoundedBoxBrush(Grey(144), 7.0f), 14.0f, 14.0f))
 				.SetBarThickness(2.0f));
 
 			Set.Set("ProgressBar", FProgressBarStyle()
-				.SetBackgroundImage(FSlateRoundedBoxBrush(Grey(15), 4.0f))
+				.SetBackgroundImage(FSlateRoundedBoxBrush(Shade(0.2f), 4.0f))
 				.SetFillImage(FSlateRoundedBoxBrush(Accent(), 4.0f))
 				.SetMarqueeImage(FSlateRoundedBoxBrush(Accent(), 4.0f)));
 		}

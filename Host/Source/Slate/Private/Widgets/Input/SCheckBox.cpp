@@ -1,6 +1,7 @@
 #include "Widgets/Input/SCheckBox.h"
 
 #include "Widgets/Images/SImage.h"
+#include "Widgets/Input/FocusRing.h"
 #include "Widgets/Input/KeyboardUse.h"
 #include "Widgets/Input/PointerUse.h"
 #include "Widgets/Layout/SBorder.h"
@@ -117,6 +118,23 @@ FSlateColor SCheckBox::GetForegroundColor() const
 	default:
 		return bIsPressed ? Style->PressedForeground : IsHovered() ? Style->HoveredForeground : Style->ForegroundColor;
 	}
+}
+
+const FSlateBrush* SCheckBox::GetFocusBrush() const
+{
+	return Box.IsValid() ? nullptr : SCompoundWidget::GetFocusBrush();
+}
+
+int32 SCheckBox::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements,
+	int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const
+{
+	const int32 TopLayer = SCompoundWidget::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId, InWidgetStyle, bParentEnabled);
+	if (!Box.IsValid())
+	{
+		return TopLayer;
+	}
+	Host::PaintFocusRing(*this, Box->GetCachedGeometry(), ESlateBrushRoundingType::FixedRadius, OutDrawElements, TopLayer + 1);
+	return TopLayer + 1;
 }
 
 void SCheckBox::OnFocusLost(const FFocusEvent& InFocusEvent)

@@ -3,6 +3,7 @@
 #include "InputCoreTypes.h"
 #include "Layout/Oriented.h"
 #include "Rendering/DrawElements.h"
+#include "Widgets/Input/FocusRing.h"
 
 SSlider::SSlider()
 	: ValueAttribute(*this, 1.0f)
@@ -186,8 +187,11 @@ int32 SSlider::OnPaint(const FPaintArgs&, const FGeometry& AllottedGeometry, con
 	Draw(LayerId, Bar, Host::OrientedVector(Orientation, Indent, BarTop), Host::OrientedVector(Orientation, BarLength, Style->BarThickness), BarColorAttribute.Get());
 	const float ThumbBegin = Track.Begin + Track.Length * Share - Host::Along(ThumbSize, Orientation) * 0.5f;
 	const float ThumbTop = (Host::Along(Size, Across) - Host::Along(ThumbSize, Across)) * 0.5f;
-	Draw(LayerId + 1, Thumb, Host::OrientedVector(Orientation, ThumbBegin, ThumbTop), ThumbSize, HandleColorAttribute.Get());
-	return LayerId + 1;
+	const FVector2f ThumbPlace = Host::OrientedVector(Orientation, ThumbBegin, ThumbTop);
+	Draw(LayerId + 1, Thumb, ThumbPlace, ThumbSize, HandleColorAttribute.Get());
+	Host::PaintFocusRing(*this, AllottedGeometry.MakeChild(ThumbSize, FSlateLayoutTransform(ThumbPlace)), ESlateBrushRoundingType::HalfHeightRadius,
+		OutDrawElements, LayerId + 2);
+	return LayerId + 2;
 }
 
 FVector2D SSlider::ComputeDesiredSize(float) const

@@ -70,6 +70,8 @@ public:
 
 	virtual bool SupportsKeyboardFocus() const override { return bIsFocusable; }
 	virtual bool IsInteractable() const override { return IsEnabled(); }
+	/** Drawn over a toggle button; of a check box, the box alone has a ring. */
+	virtual const FSlateBrush* GetFocusBrush() const override;
 	virtual void OnFocusLost(const FFocusEvent& InFocusEvent) override;
 	virtual FReply OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
 	virtual FReply OnKeyUp(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent) override;
@@ -80,6 +82,9 @@ public:
 	virtual void OnMouseEnter(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseLeave(const FPointerEvent& MouseEvent) override;
 	virtual void OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent) override;
+
+	virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements,
+		int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 
 private:
 	bool IsToggleButton() const;

@@ -78,6 +78,8 @@ public:
 	void SetStyle(const FSliderStyle* InStyle);
 
 	virtual bool SupportsKeyboardFocus() const override { return bIsFocusable; }
+	/** The handle has a ring instead. */
+	virtual const FSlateBrush* GetFocusBrush() const override { return nullptr; }
 	virtual bool IsInteractable() const override { return IsEnabled(); }
 	virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
 	virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
