@@ -13,6 +13,7 @@
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/FileHelper.h"
 #include "Misc/Paths.h"
+#include "RestoredVariable.h"
 #include "TemporaryContent.h"
 #include "Widgets/SWindow.h"
 
@@ -226,8 +227,7 @@ namespace
 
 	TEST_F(FGameUserSettingsTest, TheUsersScreenPercentageOutranksTheResolutionScale)
 	{
-		IConsoleVariable* Percentage = IConsoleManager::Get().FindConsoleVariable(TEXT("r.ScreenPercentage"));
-		ASSERT_NE(Percentage, nullptr);
+		const Host::FRestoredVariable Percentage(TEXT("r.ScreenPercentage"));
 		Settings->SetResolutionScaleNormalized(0.5f);
 		Settings->ApplyNonResolutionSettings();
 		EXPECT_FLOAT_EQ(Percentage->GetFloat(), 50.0f);

@@ -5,18 +5,73 @@
 #include "Components/ComboBoxString.h"
 #include "GameFramework/GameUserSettings.h"
 #include "HAL/IConsoleManager.h"
+#include "Host/ConfigFiles.h"
 #include "Host/Displays.h"
 #include "Misc/ConfigCacheIni.h"
+#include "RestoredVariable.h"
 #include "TemporaryContent.h"
 #include "UserWidget/Settings/HalvexSettingCommand.h"
 #include "UserWidget/Settings/HalvexSettingDropdown.h"
 #include "UserWidget/Settings/HalvexSettingGeneral.h"
 #include "UserWidget/Settings/HalvexSettingToggle.h"
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 using namespace KitReflection;
 
 namespace
 {
+	/** How often a file is opened, by whomever, for as long as this lives. */
+	class FFileReads
+	{
+	public:
+		explicit FFileReads(const FString& Filename)
+			: Watch(inotify_init1(IN_NONBLOCK))
+		{
+			EXPECT_GE(inotify_add_watch(Watch, TCHAR_TO_UTF8(*Filename), IN_OPEN), 0);
+		}
+		~FFileReads() { close(Watch); }
+		FFileReads(const FFileReads&) = delete;
+		FFileReads& operator=(const FFileReads&) = delete;
+
+		int Count()
+		{
+			inotify_event Event = {};
+			while (read(Watch, &Event, sizeof(Event)) == sizeof(Event))
+			{
+				++NumReads;
+			}
+			return NumReads;
+		}
+
+	private:
+		int Watch;
+		int NumReads = 0;
+	};
+
+	/** Takes a number away from the console until its end. */
+	class FUnregisteredVariable
+	{
+	public:
+		explicit FUnregisteredVariable(const TCHAR* InName)
+			: Name(InName)
+		{
+			const IConsoleVariable* const Variable = IConsoleManager::Get().FindConsoleVariable(Name);
+			Help = Variable->GetHelp();
+			Default = FCString::Atof(*Variable->GetDefaultValue());
+			IConsoleManager::Get().UnregisterConsoleObject(Name);
+		}
+		~FUnregisteredVariable() { IConsoleManager::Get().RegisterConsoleVariable(Name, Default, *Help); }
+		FUnregisteredVariable(const FUnregisteredVariable&) = delete;
+		FUnregisteredVariable& operator=(const FUnregisteredVariable&) = delete;
+
+	private:
+		const TCHAR* Name;
+		FString Help;
+		float Default = 0.0f;
+	};
+
 	/** A settings panel with two drop-down rows, two toggles and an apply button. */
 	class FSettingRowsTest : public FKitTest
 	{
@@ -289,17 +344,24 @@ namespace
 		EXPECT_TRUE(Panel->IsSettingsMarkAsDirty()) << "told of the change all the same";
 	}
 
-	TEST_F(FSettingRowsTest, OnlyTheFirstRowThatAsksLoads)
+	TEST_F(FSettingRowsTest, TwoPanelsLoadTheFileOnce)
 	{
-		UHalvexSettingItem* Item = NewObject<UHalvexSettingDropdown>();
-		Item->bUseLoadSetting = true;
+		Content.Write(TEXT("Loading.widget.json"), R"({ "Parent": "/Script/HalvexProUI.HalvexSettingGeneral",
+			"Root": { "Class": "VerticalBox", "Children": [
+				{ "Class": "/KitScreens/Drop.Drop", "Name": "Shadow", "Properties": { "SettingType": "ESTD_Shadow", "bUseLoadSetting": true } },
+				{ "Class": "/KitScreens/Drop.Drop", "Name": "Texture", "Properties": { "SettingType": "ESTD_Texture", "bUseLoadSetting": true } } ] } })");
+		FFileReads Reads(Host::FConfigFiles::GetUserFile(GGameUserSettingsIni));
 		Settings().SetShadowQuality(4);
-		Item->UHalvexSettingItem::LoadSetting_Implementation();
+		GConfig->Flush(true, GGameUserSettingsIni);
+		MakeOf<UHalvexSettingGeneral>(TEXT("Loading"));
 		EXPECT_EQ(Settings().GetShadowQuality(), 1) << "what was not applied is gone";
+		EXPECT_EQ(Reads.Count(), 1);
+
 		Settings().SetShadowQuality(4);
-		NewObject<UHalvexSettingDropdown>()->UHalvexSettingItem::LoadSetting_Implementation();
-		Item->UHalvexSettingItem::LoadSetting_Implementation();
+		GConfig->Flush(true, GGameUserSettingsIni);
+		MakeOf<UHalvexSettingGeneral>(TEXT("Loading"));
 		EXPECT_EQ(Settings().GetShadowQuality(), 4);
+		EXPECT_EQ(Reads.Count(), 1);
 	}
 
 	TEST_F(FSettingRowsTest, GraphsAnswerTheEventsOfARow)
@@ -316,10 +378,21 @@ namespace
 
 	TEST_F(FSettingRowsTest, ScreenPercentageIsSetAsAWholeNumber)
 	{
+		const Host::FRestoredVariable Restored(TEXT("r.ScreenPercentage"));
 		UHalvexSettingCommand* Row = MakeOfClass<UHalvexSettingCommand>();
 		Row->SetScreenPercentageValue(75.6f);
 		EXPECT_EQ(Row->GetScreenPercentageValue(), 75.0f);
-		Row->SetScreenPercentageValue(0.0f);
+	}
+
+	TEST_F(FSettingRowsTest, WithoutItsVariableTheScreenPercentageIsBelowZero)
+	{
+		UHalvexSettingCommand* Row = MakeOfClass<UHalvexSettingCommand>();
+		const FUnregisteredVariable Gone(TEXT("r.ScreenPercentage"));
+		EXPECT_EQ(Row->GetScreenPercentageValue(), -1.0f);
+		Settings().ApplyNonResolutionSettings();
+		EXPECT_EQ(Row->GetScreenPercentageValue(), -1.0f) << "nothing brings it back";
+		const Host::FExpectedLog Unknown(TEXT("'r.ScreenPercentage 75' is no console command"));
+		Row->SetScreenPercentageValue(75.0f);
 	}
 
 	TEST_F(FSettingRowsTest, DesignersAreToldWhatTheRowsAre)

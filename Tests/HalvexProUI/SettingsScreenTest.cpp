@@ -36,7 +36,6 @@ void FSettingsScreenTest::TearDown()
 {
 	Host::FEngineTest::TearDown();
 	Host::FDisplays::Reset();
-	IConsoleManager::Get().FindConsoleVariable(TEXT("r.ScreenPercentage"))->Set(0.0f, ECVF_SetByConsole);
 	Settings().SetToDefaults();
 	Settings().SetScreenResolution(FIntPoint(800, 600));
 	Settings().SetFullscreenMode(EWindowMode::Windowed);

@@ -3,6 +3,7 @@
 #include "EngineTest.h"
 
 #include "Components/ComboBoxString.h"
+#include "RestoredVariable.h"
 
 class UGameUserSettings;
 class UUserWidget;
@@ -43,4 +44,7 @@ protected:
 
 	static const FIntPoint FirstSize;
 	static const FIntPoint OtherSize;
+
+private:
+	const Host::FRestoredVariable ScreenPercentage{ TEXT("r.ScreenPercentage") };
 };

@@ -4,7 +4,7 @@
 #include "Engine/GameInstance.h"
 #include "Engine/World.h"
 #include "GameFramework/GameUserSettings.h"
-#include "HAL/IConsoleManager.h"
+#include "RestoredVariable.h"
 #include "TimerManager.h"
 
 namespace
@@ -55,13 +55,10 @@ namespace
 
 	TEST_F(FFrameRateTest, TheConsolesLimitOutranksTheUsers)
 	{
-		IConsoleVariable* const Limit = IConsoleManager::Get().FindConsoleVariable(TEXT("t.MaxFPS"));
-		ASSERT_NE(Limit, nullptr);
-		const EConsoleVariableFlags Before = Limit->GetFlags();
+		const Host::FRestoredVariable Limit(TEXT("t.MaxFPS"));
 		Limit->Set(TEXT("20"), ECVF_SetByConsole);
 		Settings->SetFrameRateLimit(50.0f);
 		Settings->ApplyNonResolutionSettings();
 		EXPECT_EQ(GEngine->GetMaxFPS(), 20.0f);
-		Limit->SetFlags(Before);
 	}
 }

@@ -12,7 +12,10 @@ namespace
 
 	const TCHAR* const SectionName = TEXT("ScalabilityGroups");
 
-	TAutoConsoleVariable<float> ScreenPercentage(TEXT("r.ScreenPercentage"), 0.0f,
+	const TCHAR* const ScreenPercentageName = TEXT("r.ScreenPercentage");
+
+	/** Looked up by its name wherever it counts: it may be taken away, as no other value of the console. */
+	[[maybe_unused]] const IConsoleVariable* const ScreenPercentage = IConsoleManager::Get().RegisterConsoleVariable(ScreenPercentageName, 0.0f,
 		TEXT("Pixels of the picture that a scene is drawn in, in percent of the window's along an axis. 0: as the project says."));
 
 	constexpr uint32 GroupFlags = ECVF_ScalabilityGroup;
@@ -130,7 +133,10 @@ void Scalability::SetQualityLevels(const FQualityLevels& QualityLevels)
 	}
 	const FString Percentage = FString::SanitizeFloat(Levels.ResolutionQuality);
 	ResolutionQuality->SetWithCurrentPriority(*Percentage);
-	Host::SetUnlessOutranked(*ScreenPercentage, *Percentage, ECVF_SetByScalability);
+	if (IConsoleVariable* const Drawn = IConsoleManager::Get().FindConsoleVariable(ScreenPercentageName))
+	{
+		Host::SetUnlessOutranked(*Drawn, *Percentage, ECVF_SetByScalability);
+	}
 }
 
 void Scalability::LoadState(const FString& IniName, FQualityLevels& InOutLevels)
