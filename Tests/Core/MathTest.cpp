@@ -165,3 +165,10 @@ TEST(MathTest, ConstantInterpolationMovesByTheStep)
 	EXPECT_EQ(10.0f, FMath::FInterpConstantTo(9.0f, 10.0f, 0.5f, 4.0f));
 	EXPECT_TRUE(FMath::Vector2DInterpConstantTo(FVector2D(0, 0), FVector2D(3, 4), 1.0f, 2.5f).Equals(FVector2D(1.5, 2.0), 1e-6));
 }
+
+TEST(MathTest, TrailingZerosOfWideWordsAreCounted)
+{
+	EXPECT_EQ(0u, FMath::CountTrailingZeros64(1));
+	EXPECT_EQ(40u, FMath::CountTrailingZeros64(uint64(3) << 40));
+	EXPECT_EQ(64u, FMath::CountTrailingZeros64(0));
+}

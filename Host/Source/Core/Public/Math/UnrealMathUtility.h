@@ -238,6 +238,8 @@ struct FMath
 
 	static constexpr uint32 CountLeadingZeros(uint32 Value) { return uint32(std::countl_zero(Value)); }
 	static constexpr uint32 CountTrailingZeros(uint32 Value) { return uint32(std::countr_zero(Value)); }
+	/** 64 for zero. */
+	static constexpr uint64 CountTrailingZeros64(uint64 Value) { return uint64(std::countr_zero(Value)); }
 	static constexpr int32 CountBits(uint64 Bits) { return std::popcount(Bits); }
 
 	// Powers and angles

@@ -12,12 +12,17 @@ void UGameInstance::Init()
 	ViewportClient = NewObject<UGameViewportClient>(this);
 	LocalPlayer = NewObject<ULocalPlayer>(this);
 	LocalPlayer->ViewportClient = ViewportClient;
-	APlayerController* Controller = NewObject<APlayerController>(World);
+	APlayerController* Controller = World->SpawnActor<APlayerController>();
 	Controller->SetPlayer(LocalPlayer);
+	World->BeginPlay();
 }
 
 void UGameInstance::Shutdown()
 {
+	if (World)
+	{
+		World->EndPlay(EEndPlayReason::Quit);
+	}
 	if (ViewportClient)
 	{
 		ViewportClient->RemoveAllViewportWidgets();

@@ -1,0 +1,6 @@
+#include "Components/SceneComponent.h"
+
+USceneComponent::USceneComponent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+}
