@@ -178,6 +178,11 @@ namespace Host
 			Obtained.Row = Table.GenerateRow(Index);
 			Obtained.Widget = Obtained.Row->AsWidget();
 			Table.Panel->AddRow(Obtained.Widget.ToSharedRef());
+			if (Obtained.Key == Table.GetItemKey(Index))
+			{
+				// Before it is measured, which may depend on it.
+				Table.UpdateRowState(*Obtained.Row, Index);
+			}
 		}
 		Obtained.Row->SetIndexInList(Index);
 		Measure(Obtained);

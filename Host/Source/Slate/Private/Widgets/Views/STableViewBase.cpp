@@ -124,7 +124,7 @@ void STableViewBase::RequestScrollTo(const void* Key, bool bNavigate)
 	RequestLayoutRefresh();
 }
 
-void STableViewBase::DropAllRows()
+void STableViewBase::RebuildList()
 {
 	bDropRows = true;
 	RequestListRefresh();
@@ -464,9 +464,14 @@ void STableViewBase::UpdateRowStates()
 		// Items that moved since are for the refresh.
 		if (const TSharedPtr<ITableRow> Row = Shown[Place].Row; Row.IsValid() && Shown[Place].Key == GetItemKey(Index))
 		{
-			Host::FTableRowState State;
-			FillRowState(Index, State);
-			Row->SetRowState(State);
+			UpdateRowState(*Row, Index);
 		}
 	}
+}
+
+void STableViewBase::UpdateRowState(ITableRow& Row, int32 Index) const
+{
+	Host::FTableRowState State;
+	FillRowState(Index, State);
+	Row.SetRowState(State);
 }

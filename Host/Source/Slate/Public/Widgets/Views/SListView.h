@@ -104,9 +104,6 @@ public:
 	void ClearItemsSource() { SetItemsSource(nullptr); }
 	TArrayView<const ItemType> GetItems() const { return ItemsSource ? TArrayView<const ItemType>(*ItemsSource) : TArrayView<const ItemType>(); }
 
-	/** Makes all rows anew. */
-	void RebuildList() { DropAllRows(); }
-
 	// Selection. Without the possibility of selecting, nothing happens; where one item can be selected, it takes the place of another.
 
 	/** Selects or deselects an item, and tells of it. */

@@ -49,6 +49,8 @@ public:
 
 	/** To be called when the items changed: at the next frame rows and selection follow them. */
 	virtual void RequestListRefresh();
+	/** Makes all rows anew, at the next frame. */
+	void RebuildList();
 	bool IsPendingRefresh() const { return bItemsChanged || bLayoutDirty; }
 
 	/** In items: 2.5 begins in the middle of the third one. */
@@ -114,9 +116,6 @@ protected:
 	/** Scrolls an item into view at the next frame, and with bNavigate makes it the one where keys go from. */
 	void RequestScrollTo(const void* Key, bool bNavigate);
 
-	/** All rows are made anew at the next frame. */
-	void DropAllRows();
-
 	// What derived classes know of the items. Indices are below GetNumItemsBeingObserved.
 
 	virtual int32 GetNumItemsBeingObserved() const = 0;
@@ -153,6 +152,7 @@ protected:
 	int32 GetFirstShown() const { return FirstShown; }
 	/** Hands every row in view the state of its item. */
 	void UpdateRowStates();
+	void UpdateRowState(ITableRow& Row, int32 Index) const;
 
 private:
 	/** Rows tell the list of their use. They stand for an item only while they are in view. */
