@@ -74,12 +74,15 @@ void UListTestListener::OnSelection(UObject* Item, bool bIsSelected)
 	Events.Add(FString::Printf(TEXT("%s:%s"), bIsSelected ? TEXT("Select") : TEXT("Deselect"), *NumberOf(Item)));
 }
 
-void UListTestListener::OnEntry(UUserWidget* Widget)
+void UListTestListener::GetChildren(UObject* Item, TArray<UObject*>& OutChildren) const
 {
-	Events.Add(FString::Printf(TEXT("Entry:%d"), CastChecked<UListTestEntry>(Widget)->Shown));
-}
-
-void UListTestListener::OnScrolled(float ItemOffset, float DistanceRemaining)
-{
-	Events.Add(FString::Printf(TEXT("Scroll:%g:%g"), ItemOffset, DistanceRemaining));
+	const int32 Number = CastChecked<UListTestItem>(Item)->Number;
+	if (Number == 0)
+	{
+		OutChildren.Append({Children[0], Children[1]});
+	}
+	else if (Number == 2)
+	{
+		OutChildren.Add(Children[2]);
+	}
 }

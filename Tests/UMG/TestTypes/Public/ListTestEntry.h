@@ -59,12 +59,14 @@ class UMGTESTTYPES_API UListTestListener : public UObject
 public:
 	TArray<FString> Events;
 
+	/** What is in the items of a tree: the first two are in item 0, the third is in the second. */
+	UPROPERTY()
+	TArray<TObjectPtr<UListTestItem>> Children;
+
+	void GetChildren(UObject* Item, TArray<UObject*>& OutChildren) const;
+
 	UFUNCTION()
 	void OnClicked(UObject* Item);
 	UFUNCTION()
 	void OnSelection(UObject* Item, bool bIsSelected);
-	UFUNCTION()
-	void OnEntry(UUserWidget* Widget);
-	UFUNCTION()
-	void OnScrolled(float ItemOffset, float DistanceRemaining);
 };

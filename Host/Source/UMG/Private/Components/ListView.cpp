@@ -2,7 +2,6 @@
 
 #include "Blueprint/IUserObjectListEntry.h"
 #include "Styling/CoreStyle.h"
-#include "Widgets/Views/SListView.h"
 
 UListView::UListView(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
@@ -183,25 +182,12 @@ FMargin UListView::GetDesiredEntryPadding(int32 ItemIndex) const
 
 TSharedRef<STableViewBase> UListView::RebuildListWidget()
 {
-	using FList = SListView<UObject*>;
-	MyListView = SNew(FList)
-		.ListItemsSource(&ObjectPtrDecay(ListItems))
-		.SelectionMode(SelectionMode)
-		.ClearSelectionOnClick(bClearSelectionOnClick)
-		.EnableAnimatedScrolling(bEnableScrollAnimation)
-		.ConsumeMouseWheel(ConsumeMouseWheel)
-		.WheelScrollMultiplier(WheelScrollMultiplier)
+	SListView<UObject*>::FArguments Arguments;
+	SetListArguments(Arguments);
+	Arguments.ListItemsSource(&ObjectPtrDecay(ListItems))
 		.Orientation(Orientation)
-		.ScrollBarStyle(&ScrollBarStyle)
-		.IsFocusable(bIsFocusable)
-		.OnGenerateRow(BIND_UOBJECT_DELEGATE(FList::FOnGenerateRow, HandleGenerateRow))
-		.OnRowReleased(BIND_UOBJECT_DELEGATE(FList::FOnRowReleased, HandleRowReleased))
-		.OnSelectionChanged(BIND_UOBJECT_DELEGATE(FList::FOnSelectionChanged, HandleSelectionChanged))
-		.OnMouseButtonClick(BIND_UOBJECT_DELEGATE(FList::FOnMouseButtonClick, HandleItemClicked))
-		.OnMouseButtonDoubleClick(BIND_UOBJECT_DELEGATE(FList::FOnMouseButtonDoubleClick, HandleItemDoubleClicked))
-		.OnItemHovered(BIND_UOBJECT_DELEGATE(FList::FOnItemHovered, HandleItemHovered))
-		.OnItemScrolledIntoView(BIND_UOBJECT_DELEGATE(FList::FOnItemScrolledIntoView, HandleItemScrolledIntoView))
 		.OnListViewScrolled(BIND_UOBJECT_DELEGATE(FOnTableViewScrolled, HandleListViewScrolled));
+	MyListView = SArgumentNew(Arguments, SListView<UObject*>);
 	return MyListView.ToSharedRef();
 }
 

@@ -174,12 +174,12 @@ TSharedRef<ITableRow> UListViewBase::GenerateEntry(UObject* Item, const TSharedR
 	if (!Entry)
 	{
 		// Said in the log by who failed to make it.
-		return SNew(STableRow<UObject*>, OwnerTable);
+		return SNew(SObjectTableRow, OwnerTable, *this, nullptr);
 	}
 	TSharedPtr<SObjectTableRow>& Row = EntryRows.FindOrAdd(Entry);
 	if (!Row.IsValid() || Row->GetEntry() != Entry)
 	{
-		Row = SNew(SObjectTableRow, OwnerTable, *this, *Entry);
+		Row = SNew(SObjectTableRow, OwnerTable, *this, Entry);
 	}
 	// The events may change the rows.
 	const TSharedRef<SObjectTableRow> Generated = Row.ToSharedRef();
@@ -216,8 +216,7 @@ void UListViewBase::HandleRowReleased(const TSharedRef<ITableRow>& Row)
 
 UUserWidget* UListViewBase::GetEntryOfRow(const TSharedPtr<ITableRow>& Row)
 {
-	// The only other rows are those that take the place of entries that could not be made.
-	return Row.IsValid() && Row->AsWidget()->GetType() == TEXT("SObjectTableRow") ? static_cast<SObjectTableRow&>(*Row).GetEntry() : nullptr;
+	return Row.IsValid() ? static_cast<SObjectTableRow&>(*Row).GetEntry() : nullptr;
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -2,6 +2,7 @@
 
 #include "Blueprint/IUserListEntry.h"
 #include "Components/ListViewBase.h"
+#include "Widgets/SNullWidget.h"
 
 namespace
 {
@@ -21,13 +22,16 @@ SObjectTableRow::~SObjectTableRow()
 	}
 }
 
-void SObjectTableRow::Construct(const FArguments&, const TSharedRef<STableViewBase>& InOwnerTable, UListViewBase& InOwnerListView, UUserWidget& InEntry)
+void SObjectTableRow::Construct(const FArguments&, const TSharedRef<STableViewBase>& InOwnerTable, UListViewBase& InOwnerListView, UUserWidget* InEntry)
 {
 	OwnerListView = &InOwnerListView;
-	Entry = &InEntry;
-	EntryKey = &InEntry;
-	GetRows().Add(EntryKey, this);
-	ConstructRow(InOwnerTable, nullptr, FMargin(0.0f), false, InEntry.TakeWidget());
+	Entry = InEntry;
+	EntryKey = InEntry;
+	if (InEntry)
+	{
+		GetRows().Add(EntryKey, this);
+	}
+	ConstructRow(InOwnerTable, nullptr, FMargin(0.0f), false, InEntry ? InEntry->TakeWidget() : SNullWidget::NullWidget);
 }
 
 SObjectTableRow* SObjectTableRow::Find(const UUserWidget* Entry)

@@ -7,7 +7,10 @@
 class UListViewBase;
 class UUserWidget;
 
-/** A row of a list that shows a user widget, which it tells of the standing of its item. It has no look of its own. */
+/**
+ * A row of a list that shows a user widget, which it tells of the standing of its item. It has no look of its own. The rows of
+ * all lists of user widgets are of this class.
+ */
 class SObjectTableRow : public Host::STableRowBase
 {
 public:
@@ -15,7 +18,8 @@ public:
 	SLATE_END_ARGS()
 
 	virtual ~SObjectTableRow() override;
-	void Construct(const FArguments& InArgs, const TSharedRef<STableViewBase>& InOwnerTable, UListViewBase& InOwnerListView, UUserWidget& InEntry);
+	/** Without an entry it is empty. */
+	void Construct(const FArguments& InArgs, const TSharedRef<STableViewBase>& InOwnerTable, UListViewBase& InOwnerListView, UUserWidget* InEntry);
 
 	/** The row that shows a user widget; null when none does. */
 	static SObjectTableRow* Find(const UUserWidget* Entry);

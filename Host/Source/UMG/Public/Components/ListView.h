@@ -2,10 +2,9 @@
 
 #include "CoreMinimal.h"
 #include "Components/ListViewBase.h"
+#include "Widgets/Views/SListView.h"
 #include "ListView.generated.h"
 
-template <typename ItemType>
-class SListView;
 
 /**
  * A list of objects. The entry class implements UserObjectListEntry: an entry is told of the object that it is to show.
@@ -125,6 +124,28 @@ public:
 
 protected:
 	UMG_API virtual TSharedRef<STableViewBase> RebuildListWidget() override;
+
+	/** Fills in what the Slate lists of all kinds have in common. */
+	template <typename ArgumentsType>
+	void SetListArguments(ArgumentsType& Arguments)
+	{
+		using FList = SListView<UObject*>;
+		Arguments.SelectionMode(SelectionMode)
+			.ClearSelectionOnClick(bClearSelectionOnClick)
+			.EnableAnimatedScrolling(bEnableScrollAnimation)
+			.ConsumeMouseWheel(ConsumeMouseWheel)
+			.WheelScrollMultiplier(WheelScrollMultiplier)
+			.ScrollBarStyle(&ScrollBarStyle)
+			.IsFocusable(bIsFocusable)
+			.OnGenerateRow(FList::FOnGenerateRow::CreateUObject(this, &UListView::HandleGenerateRow))
+			.OnRowReleased(FList::FOnRowReleased::CreateUObject(this, &UListView::HandleRowReleased))
+			.OnSelectionChanged(FList::FOnSelectionChanged::CreateUObject(this, &UListView::HandleSelectionChanged))
+			.OnMouseButtonClick(FList::FOnMouseButtonClick::CreateUObject(this, &UListView::HandleItemClicked))
+			.OnMouseButtonDoubleClick(FList::FOnMouseButtonDoubleClick::CreateUObject(this, &UListView::HandleItemDoubleClicked))
+			.OnItemHovered(FList::FOnItemHovered::CreateUObject(this, &UListView::HandleItemHovered))
+			.OnItemScrolledIntoView(FList::FOnItemScrolledIntoView::CreateUObject(this, &UListView::HandleItemScrolledIntoView));
+	}
+
 	UMG_API virtual void OnRefreshDesignerItems() override;
 	UMG_API virtual void InitializeEntry(UUserWidget& Entry, UObject* Item) override;
 	/** The array was changed. */

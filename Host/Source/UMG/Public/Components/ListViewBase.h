@@ -175,7 +175,7 @@ protected:
 	UMG_API void HandleRowReleased(const TSharedRef<ITableRow>& Row);
 	UMG_API virtual void InitializeEntry(UUserWidget& Entry, UObject* Item);
 
-	/** The entry of a row of this list; null for other rows. */
+	/** The entry that a row of this list shows; null when there is none. */
 	static UMG_API UUserWidget* GetEntryOfRow(const TSharedPtr<ITableRow>& Row);
 
 	/** Shows items. It is to implement the interface UserObjectListEntry. */
