@@ -196,6 +196,18 @@ namespace
 		EXPECT_NE(Back.find("Set1 +1"), std::string::npos) << Back;
 	}
 
+	TEST_F(FListViewTest, EntryIsToldAnewThatItsNewItemIsSelected)
+	{
+		List->SetSelectionMode(ESelectionMode::Multi);
+		ShowItems(2);
+		List->SetSelectedIndex(0);
+		List->SetItemSelection(List->GetItemAt(1), true);
+		TakeEvents();
+		List->RegenerateAllEntries();
+		Frame();
+		EXPECT_EQ(TakeEvents(), "Release0 Release1 Set0 +0 Set1 +1");
+	}
+
 	TEST_F(FListViewTest, ScrollingAndNavigatingAreCarriedOutInTheNextFrame)
 	{
 		ShowItems(100);

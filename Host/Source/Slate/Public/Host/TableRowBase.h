@@ -45,9 +45,6 @@ namespace Host
 		void ConstructRow(const TSharedRef<STableViewBase>& InOwnerTable, const FTableRowStyle* InStyle, const FMargin& InPadding, bool bInShowSelection,
 			const TSharedRef<SWidget>& InContent);
 
-		/** The state is another one than before. */
-		virtual void OnRowStateChanged(const FTableRowState& Before);
-
 		/** Null once the list is gone. */
 		TSharedPtr<STableViewBase> GetOwnerTable() const { return OwnerTable.Pin(); }
 

@@ -49,16 +49,27 @@ void SObjectTableRow::SetIndexInList(int32 InIndexInList)
 	}
 }
 
-void SObjectTableRow::OnRowStateChanged(const Host::FTableRowState& Before)
+void SObjectTableRow::SetItem(UObject* InItem)
 {
-	STableRowBase::OnRowStateChanged(Before);
+	Item = InItem;
+	bHasNewItem = true;
+}
+
+void SObjectTableRow::SetRowState(const Host::FTableRowState& InState)
+{
+	STableRowBase::SetRowState(InState);
+	const bool bTellSelected = bToldSelected != InState.bSelected || (bHasNewItem && InState.bSelected);
+	const bool bTellExpanded = bToldExpanded != InState.bExpanded || (bHasNewItem && InState.bExpanded);
+	bToldSelected = InState.bSelected;
+	bToldExpanded = InState.bExpanded;
+	bHasNewItem = false;
 	// Each event may take the entry away.
-	if (UUserWidget* Told = Entry.Get(); Told && Before.bSelected != IsItemSelected())
+	if (UUserWidget* Told = Entry.Get(); Told && bTellSelected)
 	{
-		IUserListEntry::UpdateItemSelection(*Told, IsItemSelected());
+		IUserListEntry::UpdateItemSelection(*Told, InState.bSelected);
 	}
-	if (UUserWidget* Told = Entry.Get(); Told && Before.bExpanded != IsItemExpanded())
+	if (UUserWidget* Told = Entry.Get(); Told && bTellExpanded)
 	{
-		IUserListEntry::UpdateItemExpansion(*Told, IsItemExpanded());
+		IUserListEntry::UpdateItemExpansion(*Told, InState.bExpanded);
 	}
 }

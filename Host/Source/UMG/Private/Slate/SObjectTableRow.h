@@ -27,12 +27,10 @@ public:
 	UUserWidget* GetEntry() const { return Entry.Get(); }
 	UListViewBase* GetOwnerListView() const { return OwnerListView.Get(); }
 	UObject* GetItem() const { return Item.Get(); }
-	void SetItem(UObject* InItem) { Item = InItem; }
+	void SetItem(UObject* InItem);
 
 	virtual void SetIndexInList(int32 InIndexInList) override;
-
-protected:
-	virtual void OnRowStateChanged(const Host::FTableRowState& Before) override;
+	virtual void SetRowState(const Host::FTableRowState& InState) override;
 
 private:
 	TWeakObjectPtr<UListViewBase> OwnerListView;
@@ -40,4 +38,8 @@ private:
 	TWeakObjectPtr<UObject> Item;
 	/** The address of the entry, by which the row is known. */
 	const UUserWidget* EntryKey = nullptr;
+	/** What the entry was told last. An item that it was given since is told anew if it is selected or open. */
+	bool bToldSelected = false;
+	bool bToldExpanded = false;
+	bool bHasNewItem = false;
 };

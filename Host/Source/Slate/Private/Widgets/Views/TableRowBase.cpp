@@ -36,21 +36,16 @@ namespace Host
 
 	void STableRowBase::SetRowState(const FTableRowState& InState)
 	{
-		if (!(State == InState))
+		if (State == InState)
 		{
-			const FTableRowState Before = State;
-			State = InState;
-			OnRowStateChanged(Before);
+			return;
 		}
-	}
-
-	void STableRowBase::OnRowStateChanged(const FTableRowState& Before)
-	{
-		UpdateLook();
 		if (Arrow.IsValid())
 		{
-			Arrow->Invalidate(Before.IndentLevel != State.IndentLevel ? EInvalidateWidgetReason::Layout : EInvalidateWidgetReason::Paint);
+			Arrow->Invalidate(State.IndentLevel != InState.IndentLevel ? EInvalidateWidgetReason::Layout : EInvalidateWidgetReason::Paint);
 		}
+		State = InState;
+		UpdateLook();
 		// The foreground of the content follows the state too.
 		Invalidate(EInvalidateWidgetReason::Paint);
 	}
