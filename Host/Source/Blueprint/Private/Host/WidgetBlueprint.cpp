@@ -5,11 +5,12 @@
 #include "Blueprint/WidgetTree.h"
 #include "Host/AnimationReader.h"
 #include "Host/AssetLoaders.h"
+#include "Host/BlueprintFile.h"
+#include "Host/BlueprintInterfaces.h"
 #include "Host/BlueprintMembers.h"
 #include "Host/BlueprintReport.h"
 #include "Host/BlueprintVariables.h"
 #include "Host/JsonDocument.h"
-#include "Host/PropertyJson.h"
 #include "Host/WidgetBindingChecks.h"
 #include "Host/WidgetClassNames.h"
 #include "Host/WidgetGraph.h"
@@ -48,40 +49,26 @@ namespace Host
 	UObject* LoadWidgetBlueprint(const FAssetRequest& Request)
 	{
 		FJsonDocument Document;
-		const bool bRead = Document.LoadFile(Request.Filename);
-		for (const FString& Error : Document.GetErrors())
-		{
-			ReportBlueprintError(Error);
-		}
-		if (!bRead)
+		const FJsonNode Root = ReadBlueprintFile(Document, Request, TEXT("a widget blueprint"));
+		if (!Root)
 		{
 			return nullptr;
 		}
-		const FJsonNode Root = Document.GetRoot();
-		if (!Root.IsObject())
-		{
-			ReportBlueprintError(Root, FString::Printf(TEXT("a widget blueprint must be an object, not %s."), DescribeJsonKind(Root.GetKind())));
-			return nullptr;
-		}
-		static const TCHAR* const Known[] = { TEXT("Parent"), TEXT("Defaults"), TEXT("Variables"), TEXT("Root"), TEXT("Animations") };
+		static const TCHAR* const Known[] = { TEXT("Parent"), TEXT("Interfaces"), TEXT("Defaults"), TEXT("Variables"), TEXT("Root"), TEXT("Animations") };
 		ReportUnknownMembers(Root, Known, TEXT("a widget blueprint"));
 
 		const FName ClassName(*(Request.AssetName.ToString() + TEXT("_C")));
 		UWidgetBlueprintGeneratedClass* Class = NewObject<UWidgetBlueprintGeneratedClass>(Request.Package, ClassName, RF_Public | RF_Standalone);
 		Class->SetSuperStruct(ReadParent(Root));
 		Class->ClassFlags &= ~CLASS_Abstract;
+		AddBlueprintInterfaces(*Class, Root.Find(TEXT("Interfaces")));
 		AddBlueprintVariables(*Class, Root.Find(TEXT("Variables")));
 		const FJsonNode Animations = Root.Find(TEXT("Animations"));
 		AddAnimationVariables(*Class, Animations);
 		LoadWidgetGraph(*Class, Request.Filename);
 		Class->StaticLink();
 
-		UObject* Defaults = Class->GetDefaultObject();
-		ReadVariableDefaults(*Class, Root.Find(TEXT("Variables")), *Defaults);
-		if (const FJsonNode DefaultsNode = Root.Find(TEXT("Defaults")))
-		{
-			FPropertyJson::ReadObject(DefaultsNode, Defaults, [](const FString& Message) { ReportBlueprintError(Message); });
-		}
+		ReadBlueprintDefaults(*Class, Root);
 
 		Class->WidgetTreeTemplate = NewObject<UWidgetTree>(Class, TEXT("WidgetTree"));
 		FWidgetTreeReader Reader(*Class->WidgetTreeTemplate);

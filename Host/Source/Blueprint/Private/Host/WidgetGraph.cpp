@@ -30,7 +30,8 @@ namespace Host
 		void AddGraphFunction(UWidgetBlueprintGeneratedClass& Class, lua_State* State, const FString& Name, const FString& GraphName)
 		{
 			const TSharedRef<FLuaReference> Script = MakeShared<FLuaReference>(State);
-			UFunction* Inherited = Class.GetSuperClass()->FindFunctionByName(FName(*Name));
+			// Of the parent, or of an interface.
+			UFunction* Inherited = Class.FindFunctionByName(FName(*Name));
 			if (Inherited && !CanOverride(*Inherited))
 			{
 				ReportBlueprintError(FString::Printf(TEXT("%s: '%s' is a function of %s that cannot be replaced."), *GraphName, *Name, *Inherited->GetOuterUClass()->GetName()));

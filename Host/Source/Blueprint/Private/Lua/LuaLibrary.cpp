@@ -5,6 +5,7 @@
 #include "Engine/DataTable.h"
 #include "Engine/Engine.h"
 #include "Engine/World.h"
+#include "GameFramework/Actor.h"
 #include "Host/Mounts.h"
 #include "Host/WidgetClassNames.h"
 #include "Lua/LuaApi.h"
@@ -103,6 +104,18 @@ namespace Host
 				return luaL_error(State, "%s", TCHAR_TO_UTF8(*Reason));
 			}
 			PushLuaObject(State, UserWidget->WidgetTree->ConstructWidget<UWidget>(WidgetClass));
+			return 1;
+		}
+
+		int ConstructObject(lua_State* State)
+		{
+			UObject& Owner = CheckLuaObject(State, 1);
+			UClass& ObjectClass = CheckClass(State, 2);
+			if (ObjectClass.HasAnyClassFlags(CLASS_Abstract) || ObjectClass.IsChildOf(UWidget::StaticClass()) || ObjectClass.IsChildOf(AActor::StaticClass()))
+			{
+				return luaL_error(State, "no object of the class %s can be made", TCHAR_TO_UTF8(*ObjectClass.GetName()));
+			}
+			PushLuaObject(State, NewObject<UObject>(&Owner, &ObjectClass));
 			return 1;
 		}
 
@@ -224,6 +237,7 @@ namespace Host
 		lua_register(State, "Subsystem", &FindSubsystem);
 		lua_register(State, "Load", &Load);
 		lua_register(State, "CreateWidget", &CreateWidgetOfClass);
+		lua_register(State, "ConstructObject", &ConstructObject);
 		lua_register(State, "Delay", &Delay);
 		lua_register(State, "Keys", &Keys);
 		lua_register(State, "RowNames", &RowNames);

@@ -223,6 +223,25 @@ namespace Host
 			Property.SetObjectPropertyValue(Value, Object);
 			return true;
 		}
+
+		bool ReadInterface(lua_State* State, int Index, const FInterfaceProperty& Property, void* Value, FString& OutReason)
+		{
+			UObject* Object = nullptr;
+			if (!lua_isnil(State, Index) && !TryGetLuaObject(State, Index, Object))
+			{
+				return Refuse(State, Index, TEXT("an object"), OutReason);
+			}
+			if (Object && !Object->GetClass()->ImplementsInterface(Property.InterfaceClass))
+			{
+				OutReason = FString::Printf(TEXT("%s does not implement %s"), *Object->GetClass()->GetName(), *Property.InterfaceClass->GetName());
+				return false;
+			}
+			// Objects that implement it by a graph have no native part.
+			FScriptInterface& Interface = *static_cast<FScriptInterface*>(Value);
+			Interface.SetObject(Object);
+			Interface.SetInterface(Object ? Object->GetInterfaceAddress(Property.InterfaceClass) : nullptr);
+			return true;
+		}
 	}
 
 	FString ToFString(lua_State* State, int Index)
@@ -385,6 +404,10 @@ namespace Host
 		if (const FObjectPropertyBase* Object = Soft ? nullptr : CastField<FObjectPropertyBase>(&Property))
 		{
 			return ReadObject(State, Index, *Object, Value, OutReason);
+		}
+		if (const FInterfaceProperty* Interface = CastField<FInterfaceProperty>(&Property))
+		{
+			return ReadInterface(State, Index, *Interface, Value, OutReason);
 		}
 		if (!lua_isstring(State, Index))
 		{

@@ -15,6 +15,7 @@ namespace Host
 	 *
 	 *   {
 	 *     "Parent": path of the class that it derives from; "/Script/UMG.UserWidget" when left out
+	 *     "Interfaces": [path of an interface], whose events the graph may define
 	 *     "Defaults": {property: value}, for the class default object
 	 *     "Variables": {name: {"Type": type, "Default": value, "Category": text}}
 	 *     "Root": widget

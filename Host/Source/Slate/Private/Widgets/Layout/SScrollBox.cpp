@@ -1,7 +1,7 @@
 #include "Widgets/Layout/SScrollBox.h"
 
-#include "Framework/Layout/InertialScrollManager.h"
 #include "Layout/ArrangedChildren.h"
+#include "Layout/DragScroll.h"
 #include "Layout/Oriented.h"
 #include "Layout/ScrollState.h"
 #include "Layout/WidgetPath.h"
@@ -26,11 +26,16 @@ namespace
 
 SScrollBox::SScrollBox()
 	: Scroll(MakeUnique<Host::FScrollState>())
-	, Inertia(MakeUnique<FInertialScrollManager>())
+	, Drag(MakeUnique<Host::FDragScroll>())
 {
 }
 
 SScrollBox::~SScrollBox() = default;
+
+bool SScrollBox::IsRightClickScrolling() const
+{
+	return Drag->IsDragging();
+}
 
 void SScrollBox::Construct(const FArguments& InArgs)
 {
@@ -130,7 +135,7 @@ void SScrollBox::ScrollToEnd()
 
 void SScrollBox::EndInertialScrolling()
 {
-	Inertia->ClearScrollVelocity();
+	Drag->StopMotion();
 	MotionTarget.Reset();
 }
 
@@ -375,7 +380,7 @@ bool SScrollBox::ScrollByUser(float NewOffset)
 
 void SScrollBox::AnimateTo(float NewOffset)
 {
-	Inertia->ClearScrollVelocity();
+	Drag->StopMotion();
 	MotionTarget = FMath::Clamp(NewOffset, 0.0f, Scroll->GetEndOffset());
 	EnsureMotion();
 }

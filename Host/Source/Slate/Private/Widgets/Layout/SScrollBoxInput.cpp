@@ -1,6 +1,5 @@
-#include "Framework/Application/SlateApplication.h"
-#include "Framework/Layout/InertialScrollManager.h"
 #include "InputCoreTypes.h"
+#include "Layout/DragScroll.h"
 #include "Layout/Oriented.h"
 #include "Layout/ScrollState.h"
 #include "Layout/WidgetPath.h"
@@ -8,17 +7,8 @@
 
 namespace
 {
-	/** Slate units for one step of the wheel, or one press of an arrow key. */
-	constexpr float ScrollStep = 32.0f;
-
 	/** Share of the view that a page key scrolls by: some of it stays in sight. */
 	constexpr float PageShare = 0.9f;
-
-	/** An animated scroll makes all but 1/e of its way in this many seconds. */
-	constexpr float AnimationSeconds = 0.06f;
-
-	/** Way in slate units that an animated scroll makes at once in the end. */
-	constexpr float AnimationEnd = 0.5f;
 }
 
 FReply SScrollBox::OnMouseWheel(const FGeometry&, const FPointerEvent& MouseEvent)
@@ -28,7 +18,7 @@ FReply SScrollBox::OnMouseWheel(const FGeometry&, const FPointerEvent& MouseEven
 		return ConsumeMouseWheel == EConsumeMouseWheel::Always ? FReply::Handled() : FReply::Unhandled();
 	}
 	const float From = MotionTarget.Get(Scroll->GetOffset());
-	const float To = FMath::Clamp(From - MouseEvent.GetWheelDelta() * ScrollStep * WheelScrollMultiplier, 0.0f, Scroll->GetEndOffset());
+	const float To = FMath::Clamp(From - MouseEvent.GetWheelDelta() * Host::ScrollStep * WheelScrollMultiplier, 0.0f, Scroll->GetEndOffset());
 	const bool bScrolls = To != From;
 	if (bScrolls && bAnimateWheelScrolling)
 	{
@@ -57,49 +47,42 @@ FReply SScrollBox::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointer
 	{
 		return SCompoundWidget::OnMouseButtonDown(MyGeometry, MouseEvent);
 	}
-	bDragPending = true;
-	DragDistance = 0.0f;
+	Drag->Press();
 	return FReply::Handled();
 }
 
 FReply SScrollBox::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	if (!bDragPending || !MouseEvent.IsMouseButtonDown(EKeys::RightMouseButton))
+	if (!Drag->IsPending() || !MouseEvent.IsMouseButtonDown(EKeys::RightMouseButton))
 	{
-		bDragPending = false;
+		Drag->Cancel();
 		return SCompoundWidget::OnMouseMove(MyGeometry, MouseEvent);
 	}
-	const float Delta = Host::Along(FVector2f(MouseEvent.GetCursorDelta()), Orientation);
-	DragDistance += FMath::Abs(Delta);
 	FReply Reply = FReply::Handled();
-	if (!bDragging && DragDistance >= FSlateApplication::Get().GetDragTriggerDistance())
+	float Units = 0.0f;
+	if (Drag->Move(MouseEvent, Orientation, MyGeometry.Scale, Units))
 	{
-		bDragging = true;
 		Reply.CaptureMouse(AsShared());
 	}
-	if (bDragging)
+	if (Drag->IsDragging())
 	{
 		const float Before = Scroll->GetOffset();
-		ScrollByUser(Before - Delta / MyGeometry.Scale);
-		Inertia->AddScrollSample(Scroll->GetOffset() - Before, FSlateApplication::Get().GetCurrentTime());
+		ScrollByUser(Before + Units);
+		Drag->NoteScrolled(Scroll->GetOffset() - Before);
 	}
 	return Reply;
 }
 
 FReply SScrollBox::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	if (MouseEvent.GetEffectingButton() != EKeys::RightMouseButton || !bDragPending)
+	if (MouseEvent.GetEffectingButton() != EKeys::RightMouseButton || !Drag->IsPending())
 	{
 		return SCompoundWidget::OnMouseButtonUp(MyGeometry, MouseEvent);
 	}
-	bDragPending = false;
-	if (!bDragging)
+	if (!Drag->Release())
 	{
 		return FReply::Handled();
 	}
-	bDragging = false;
-	// A pause before letting go means that the content shall stay.
-	Inertia->AddScrollSample(0.0f, FSlateApplication::Get().GetCurrentTime());
 	EnsureMotion();
 	return FReply::Handled().ReleaseMouseCapture();
 }
@@ -107,8 +90,7 @@ FReply SScrollBox::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEv
 void SScrollBox::OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent)
 {
 	SCompoundWidget::OnMouseCaptureLost(CaptureLostEvent);
-	bDragPending = false;
-	bDragging = false;
+	Drag->Cancel();
 }
 
 FReply SScrollBox::OnKeyDown(const FGeometry& MyGeometry, const FKeyEvent& InKeyEvent)
@@ -142,11 +124,11 @@ TOptional<float> SScrollBox::GetOffsetForKey(const FKey& Key) const
 	// Arrows move the focus among the descendants; only when the box itself has it they scroll.
 	if (HasKeyboardFocus() && Key == (bVertical ? EKeys::Up : EKeys::Left))
 	{
-		return Offset - ScrollStep;
+		return Offset - Host::ScrollStep;
 	}
 	if (HasKeyboardFocus() && Key == (bVertical ? EKeys::Down : EKeys::Right))
 	{
-		return Offset + ScrollStep;
+		return Offset + Host::ScrollStep;
 	}
 	return TOptional<float>();
 }
@@ -180,8 +162,8 @@ EActiveTimerReturnType SScrollBox::UpdateMotion(double, float InDeltaTime)
 	if (MotionTarget.IsSet())
 	{
 		const float Target = FMath::Clamp(MotionTarget.GetValue(), 0.0f, Scroll->GetEndOffset());
-		const float Rest = (Target - Scroll->GetOffset()) * FMath::Exp(-InDeltaTime / AnimationSeconds);
-		const bool bArrives = FMath::Abs(Rest) < AnimationEnd;
+		const float Rest = (Target - Scroll->GetOffset()) * FMath::Exp(-InDeltaTime / Host::ScrollAnimationSeconds);
+		const bool bArrives = FMath::Abs(Rest) < Host::ScrollAnimationEnd;
 		ScrollByUser(bArrives ? Target : Target - Rest);
 		if (!bArrives)
 		{
@@ -189,13 +171,12 @@ EActiveTimerReturnType SScrollBox::UpdateMotion(double, float InDeltaTime)
 		}
 		MotionTarget.Reset();
 	}
-	Inertia->UpdateScrollVelocity(InDeltaTime);
-	const float Velocity = Inertia->GetScrollVelocity();
-	if (Velocity != 0.0f && ScrollByUser(Scroll->GetOffset() + Velocity * InDeltaTime))
+	const float Units = Drag->TakeMotion(InDeltaTime);
+	if (Units != 0.0f && ScrollByUser(Scroll->GetOffset() + Units))
 	{
 		return EActiveTimerReturnType::Continue;
 	}
-	Inertia->ClearScrollVelocity();
+	Drag->StopMotion();
 	MotionTimer.Reset();
 	return EActiveTimerReturnType::Stop;
 }

@@ -10,12 +10,12 @@
 #include "Widgets/SCompoundWidget.h"
 #include "SScrollBox.generated.h"
 
-class FInertialScrollManager;
 class SImage;
 class SScrollPanel;
 
 namespace Host
 {
+	class FDragScroll;
 	class FScrollState;
 }
 
@@ -159,7 +159,7 @@ public:
 	void SetIsFocusable(bool bInIsFocusable) { bIsFocusable = bInIsFocusable; }
 
 	/** The user drags the content with the right mouse button. */
-	bool IsRightClickScrolling() const { return bDragging; }
+	bool IsRightClickScrolling() const;
 
 	virtual bool SupportsKeyboardFocus() const override { return bIsFocusable; }
 	virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
@@ -208,7 +208,7 @@ private:
 	TSharedPtr<SImage> ShadowBefore;
 	TSharedPtr<SImage> ShadowBehind;
 	TUniquePtr<Host::FScrollState> Scroll;
-	TUniquePtr<FInertialScrollManager> Inertia;
+	TUniquePtr<Host::FDragScroll> Drag;
 	TSharedPtr<FActiveTimerHandle> MotionTimer;
 	/** Where an animated scroll ends. */
 	TOptional<float> MotionTarget;
@@ -223,8 +223,6 @@ private:
 	EOrientation Orientation = Orient_Vertical;
 	float WheelScrollMultiplier = 1.0f;
 	float NavigationScrollPadding = 0.0f;
-	/** Way that the cursor made since the right button went down. */
-	float DragDistance = 0.0f;
 	EDescendantScrollDestination NavigationDestination = EDescendantScrollDestination::IntoView;
 	EScrollWhenFocusChanges ScrollWhenFocusChanges = EScrollWhenFocusChanges::NoScroll;
 	EConsumeMouseWheel ConsumeMouseWheel = EConsumeMouseWheel::WhenScrollingPossible;
@@ -233,7 +231,4 @@ private:
 	bool bScrollBarIsExternal = false;
 	bool bAllowsRightClickDragScrolling = true;
 	bool bIsFocusable = false;
-	/** The right button is down, and may become a drag. */
-	bool bDragPending = false;
-	bool bDragging = false;
 };

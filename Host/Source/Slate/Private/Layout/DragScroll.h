@@ -1,0 +1,54 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Framework/Layout/InertialScrollManager.h"
+#include "Input/Events.h"
+#include "Types/SlateEnums.h"
+
+namespace Host
+{
+	/** Slate units for one step of the wheel, or one press of an arrow key. */
+	constexpr float ScrollStep = 32.0f;
+
+	/** An animated scroll makes all but 1/e of its way in this many seconds. */
+	constexpr float ScrollAnimationSeconds = 0.06f;
+
+	/** Way in slate units that an animated scroll makes at once in the end. */
+	constexpr float ScrollAnimationEnd = 0.5f;
+
+	/** Scrolling by the right mouse button: where a press becomes a drag, and how the content goes on after it. */
+	class FDragScroll
+	{
+	public:
+		/** The button went down where it may become a drag. */
+		void Press();
+		/** The button is up, or the mouse was lost. */
+		void Cancel();
+
+		/**
+		 * The mouse moved.
+		 * @param OutUnits	slate units that the content moves along the orientation; 0 unless it is dragged
+		 * @return whether this is the move that makes a drag of it, for which the mouse is to be captured
+		 */
+		bool Move(const FPointerEvent& MouseEvent, EOrientation Orientation, float Scale, float& OutUnits);
+		/** Notes how far the content was really scrolled by a move. */
+		void NoteScrolled(float Units);
+		/** The button went up. True when it was a drag, whose speed the content keeps. */
+		bool Release();
+
+		/** The button is down, and may become a drag. */
+		bool IsPending() const { return bPending; }
+		bool IsDragging() const { return bDragging; }
+
+		void StopMotion() { Inertia.ClearScrollVelocity(); }
+		/** Slate units that the content goes on by in a frame. */
+		float TakeMotion(float DeltaTime);
+
+	private:
+		FInertialScrollManager Inertia;
+		/** Pixels that the cursor went since the button went down. */
+		float Distance = 0.0f;
+		bool bPending = false;
+		bool bDragging = false;
+	};
+}
