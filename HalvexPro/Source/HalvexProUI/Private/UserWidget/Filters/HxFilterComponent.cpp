@@ -1,0 +1,9 @@
+#include "UserWidget/Filters/HxFilterComponent.h"
+
+void UHxFilterComponent::FilterValueHasChange()
+{
+	if (OnFiltersChanged.IsBound())
+	{
+		OnFiltersChanged.Broadcast();
+	}
+}
