@@ -265,6 +265,24 @@ TEST_F(ListViewTest, ItemThatStandsTwiceHasTwoRows)
 	EXPECT_EQ(NumMade, 4);
 }
 
+TEST_F(ListViewTest, ItemsMayBeReferencesThatAreNeverNull)
+{
+	using FReferenceList = SListView<TSharedRef<FTestItem>>;
+	TArray<TSharedRef<FTestItem>> References = {MakeShared<FTestItem>(0, 40.0f), MakeShared<FTestItem>(1, 40.0f)};
+	TSharedPtr<FReferenceList> ReferenceList;
+	Show(SAssignNew(ReferenceList, FReferenceList)
+		.ListItemsSource(&References)
+		.OnSelectionChanged_Lambda([this](TSharedPtr<FTestItem> Item, ESelectInfo::Type Cause) { Note(TEXT("Select"), Item, Cause); })
+		.OnGenerateRow_Lambda([](TSharedRef<FTestItem> Item, const TSharedRef<STableViewBase>& Table)
+		{
+			const TSharedRef<ITableRow> Row = SNew(STableRow<TSharedRef<FTestItem>>, Table)[SNew(SBox).HeightOverride(Item->Height)];
+			return Row;
+		}));
+	PressAt(50.0f);
+	ReferenceList->ClearSelection();
+	EXPECT_LOG("Select:1:Mouse Select:none:Direct");
+}
+
 // Scrolling into view.
 
 TEST_F(ListViewTest, ScrollsNoFartherThanNeededToSeeAnItem)

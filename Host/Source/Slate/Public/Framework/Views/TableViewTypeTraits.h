@@ -25,6 +25,20 @@ namespace Host
 		virtual void AddItemReferences(FReferenceCollector& Collector) = 0;
 	};
 
+	/** Puts an item into a set, or takes it out. */
+	template <typename ItemType>
+	void SetContained(TSet<ItemType>& Items, const ItemType& Item, bool bContained)
+	{
+		if (bContained)
+		{
+			Items.Add(Item);
+		}
+		else
+		{
+			Items.Remove(Item);
+		}
+	}
+
 	/** Takes objects out that were declared dead. */
 	template <typename ItemType>
 	void RemoveDeadObjects(TSet<ItemType>& Objects)
@@ -54,7 +68,6 @@ struct TListTypeTraits<TSharedPtr<T>>
 
 	static const void* GetKey(const TSharedPtr<T>& Item) { return Item.Get(); }
 	static bool IsPtrValid(const NullableType& Item) { return Item.IsValid(); }
-	static TSharedPtr<T> NullableItemTypeConvertToItemType(const NullableType& Item) { return Item; }
 };
 
 template <typename T>
@@ -65,7 +78,6 @@ struct TListTypeTraits<TSharedRef<T>>
 
 	static const void* GetKey(const TSharedRef<T>& Item) { return &Item.Get(); }
 	static bool IsPtrValid(const NullableType& Item) { return Item.IsValid(); }
-	static TSharedRef<T> NullableItemTypeConvertToItemType(const NullableType& Item) { return Item.ToSharedRef(); }
 };
 
 template <typename T>
@@ -77,5 +89,4 @@ struct TListTypeTraits<T*>
 
 	static const void* GetKey(const T* Item) { return Item; }
 	static bool IsPtrValid(const T* Item) { return Item != nullptr; }
-	static T* NullableItemTypeConvertToItemType(T* Item) { return Item; }
 };

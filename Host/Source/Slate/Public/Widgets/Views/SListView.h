@@ -246,8 +246,7 @@ protected:
 	{
 		if (GetItemKey(Index))
 		{
-			const ItemType& Item = (*ItemsSource)[Index];
-			bSelected ? static_cast<void>(SelectedItems.Add(Item)) : static_cast<void>(SelectedItems.Remove(Item));
+			Host::SetContained(SelectedItems, (*ItemsSource)[Index], bSelected);
 		}
 	}
 
@@ -306,16 +305,11 @@ protected:
 private:
 	void ChangeSelection(const ItemType& Item, bool bSelected)
 	{
-		if (!bSelected)
-		{
-			SelectedItems.Remove(Item);
-			return;
-		}
-		if (GetSelectionMode() != ESelectionMode::Multi)
+		if (bSelected && GetSelectionMode() != ESelectionMode::Multi)
 		{
 			SelectedItems.Reset();
 		}
-		SelectedItems.Add(Item);
+		Host::SetContained(SelectedItems, Item, bSelected);
 	}
 
 	void DropVanishedFromSelection()

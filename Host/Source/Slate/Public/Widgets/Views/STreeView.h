@@ -104,7 +104,7 @@ public:
 		{
 			return;
 		}
-		InShouldExpandItem ? static_cast<void>(ExpandedItems.Add(InItem)) : static_cast<void>(ExpandedItems.Remove(InItem));
+		Host::SetContained(ExpandedItems, InItem, InShouldExpandItem);
 		RequestTreeRefresh();
 		const FOnExpansionChanged Handler = OnExpansionChanged;
 		Handler.ExecuteIfBound(InItem, InShouldExpandItem);
