@@ -2,7 +2,9 @@
 
 #include "ListViewTestTools.h"
 #include "Widgets/Input/SButton.h"
+#include "Widgets/Layout/SScaleBox.h"
 #include "Widgets/Layout/SScrollBarTrack.h"
+#include "Widgets/Text/STextBlock.h"
 
 class ListViewTest : public FListViewTest
 {
@@ -188,6 +190,28 @@ TEST_F(ListViewTest, LargerViewShowsMoreRowsInTheSameFrame)
 	Frames->SetHeightOverride(FOptionalSize(170.0f));
 	Frame();
 	EXPECT_EQ(Rows(), "0@0 1@40 2@80 3@120 4@160");
+}
+
+TEST_F(ListViewTest, ScaledListComesToRest)
+{
+	AddItems(100);
+	auto Made = Arguments();
+	Made.OnGenerateRow_Lambda([](FTestItemPtr Item, const TSharedRef<STableViewBase>& Table)
+	{
+		const TSharedRef<ITableRow> Row = SNew(STableRow<FTestItemPtr>, Table)[SNew(STextBlock).Text(FText::AsNumber(Item->Number))];
+		return Row;
+	});
+	List = SArgumentNew(Made, FList);
+	Show(SNew(SScaleBox).Stretch(EStretch::ScaleToFit)
+	[
+		SNew(SBox).WidthOverride(117.0f).HeightOverride(83.0f)[List.ToSharedRef()]
+	]);
+	Frame();
+	Frame();
+	Frame();
+	EXPECT_FALSE(List->IsPendingRefresh());
+	EXPECT_EQ(Work.Measured, 0);
+	EXPECT_GT(List->GetNumGeneratedChildren(), 2);
 }
 
 TEST_F(ListViewTest, RowThatGrowsMovesTheOnesBehindIt)

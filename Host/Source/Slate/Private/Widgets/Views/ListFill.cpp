@@ -10,8 +10,8 @@ namespace Host
 		constexpr float Tolerance = 0.01f;
 	}
 
-	FListFill::FListFill(STableViewBase& InTable, float InScale, float InView)
-		: Table(InTable), Old(InTable.Shown), Scale(InScale), View(InView)
+	FListFill::FListFill(STableViewBase& InTable, float InView)
+		: Table(InTable), Old(InTable.Shown), View(InView)
 	{
 	}
 
@@ -193,7 +193,8 @@ namespace Host
 	{
 		if (Row.Widget.IsValid())
 		{
-			Row.Widget->SlatePrepass(Scale);
+			// As the tree does it: another scale would give another size each time.
+			Row.Widget->SlatePrepass(Table.Panel->GetMeasureScale());
 			Row.Length = Table.Panel->GetRowLength(*Row.Widget);
 		}
 	}

@@ -9,11 +9,8 @@ namespace Host
 	class FListFill
 	{
 	public:
-		/**
-		 * @param InScale	pixels a slate unit, for measuring
-		 * @param InView	length of the view, in slate units
-		 */
-		FListFill(STableViewBase& InTable, float InScale, float InView);
+		/** @param InView length of the view, in slate units */
+		FListFill(STableViewBase& InTable, float InView);
 
 		/** Goes on from the rows that are shown, moved by slate units; false when they are not those of their items any more. */
 		bool Scroll(float Units);
@@ -44,7 +41,6 @@ namespace Host
 		STableViewBase& Table;
 		/** Rows that were shown, and may be of use. */
 		TArray<FShownRow>& Old;
-		float Scale;
 		float View;
 		/** Of the rows together. */
 		float Length = 0.0f;

@@ -74,8 +74,9 @@ namespace Host
 		return Sum;
 	}
 
-	FVector2D SListPanel::ComputeDesiredSize(float) const
+	FVector2D SListPanel::ComputeDesiredSize(float LayoutScaleMultiplier) const
 	{
+		MeasureScale = LayoutScaleMultiplier;
 		if (SumRowLengths() != NotedLength)
 		{
 			OnRowResized.ExecuteIfBound();

@@ -32,6 +32,9 @@ namespace Host
 		/** Along the orientation; nothing while it is collapsed. */
 		float GetRowLength(const SWidget& Row) const;
 
+		/** The scale that the tree measures rows for. */
+		float GetMeasureScale() const { return MeasureScale; }
+
 		/** Where the first row begins; negative while its begin is out of view. In slate units, as all lengths. */
 		void SetBegin(float InBegin);
 		/** The length that all items would take. */
@@ -50,6 +53,7 @@ namespace Host
 
 		TPanelChildren<FSlot> Slots;
 		FSimpleDelegate OnRowResized;
+		mutable float MeasureScale = 1.0f;
 		float Begin = 0.0f;
 		float WantedLength = 0.0f;
 		/** Sum of the lengths of the rows when they were noted. */

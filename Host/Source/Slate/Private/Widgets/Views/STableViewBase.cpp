@@ -232,13 +232,12 @@ void STableViewBase::Tick(const FGeometry& AllottedGeometry, const double, const
 bool STableViewBase::LearnGeometry(const FGeometry& Geometry)
 {
 	const FVector2f Size = Geometry.GetLocalSize();
-	if (bHasGeometry && Size == KnownSize && Geometry.Scale == KnownScale)
+	if (bHasGeometry && Size == KnownSize)
 	{
 		return false;
 	}
 	bHasGeometry = true;
 	KnownSize = Size;
-	KnownScale = Geometry.Scale;
 	return true;
 }
 
@@ -285,7 +284,7 @@ void STableViewBase::UpdateRows()
 	}
 
 	const float View = GetView();
-	Host::FListFill Fill(*this, KnownScale, View);
+	Host::FListFill Fill(*this, View);
 	if (bNewItems)
 	{
 		EstimatedNum = INDEX_NONE;
@@ -402,7 +401,7 @@ void STableViewBase::ResolveScrollRequest()
 	const bool bBehind = Index >= FirstShown + Shown.Num() || End > View;
 	if (bBefore || bBehind)
 	{
-		Host::FListFill Fill(*this, KnownScale, View);
+		Host::FListFill Fill(*this, View);
 		if (bBefore)
 		{
 			Fill.Jump(Index);

@@ -175,7 +175,7 @@ private:
 	void BuildView(const FTableArguments& Arguments);
 	void EnsureFrame();
 	EActiveTimerReturnType OnFrame(double InCurrentTime, float InDeltaTime);
-	/** True when the room or the scale is another one than before. */
+	/** True when the room is another one than before. */
 	bool LearnGeometry(const FGeometry& Geometry);
 	/** Carries out what was asked for. */
 	void Update();
@@ -226,9 +226,8 @@ private:
 	TUniquePtr<Host::FDragScroll> Drag;
 	FOnTableViewScrolled OnScrolled;
 
-	/** What the rows are laid out for. */
+	/** The size that the rows are laid out for. */
 	FVector2f KnownSize = FVector2f(0.0f, 0.0f);
-	float KnownScale = 1.0f;
 	TArray<Host::FShownRow> Shown;
 	int32 FirstShown = 0;
 	/** Where the first row begins in the view, in slate units. */
