@@ -136,6 +136,25 @@ TEST_F(ListViewTest, RowsGoBeforeThoseThatTakeTheirPlaceAreMade)
 	EXPECT_LE(MostAtOnce, 5) << "four fit the view";
 }
 
+TEST_F(ListViewTest, ScrollingCostsTheSameHoweverManyItemsThereAre)
+{
+	TArray<Host::FSlateCounters> Works;
+	for (const int32 Count : {100, 100000})
+	{
+		Items.Reset();
+		AddItems(Count);
+		ShowList();
+		NumMade = 0;
+		List->SetScrollOffset(50.5f);
+		Frame();
+		EXPECT_EQ(NumMade, 3);
+		Works.Add(Work);
+	}
+	EXPECT_EQ(Works[0].Measured, Works[1].Measured);
+	EXPECT_EQ(Works[0].Arranged, Works[1].Arranged);
+	EXPECT_EQ(Works[0].Painted, Works[1].Painted);
+}
+
 TEST_F(ListViewTest, UnchangedFrameDoesNothing)
 {
 	AddItems(1000);
@@ -212,6 +231,38 @@ TEST_F(ListViewTest, ScaledListComesToRest)
 	EXPECT_FALSE(List->IsPendingRefresh());
 	EXPECT_EQ(Work.Measured, 0);
 	EXPECT_GT(List->GetNumGeneratedChildren(), 2);
+}
+
+TEST_F(ListViewTest, ListThatWasHiddenShowsWhatChangedMeanwhile)
+{
+	AddItems(10);
+	ShowList();
+	List->SetVisibility(EVisibility::Collapsed);
+	Frame();
+	Items.RemoveAt(0, 4);
+	List->RequestListRefresh();
+	List->SetScrollOffset(1.0f);
+	Frame();
+	Frame();
+	EXPECT_FALSE(List->HasActiveTimers()) << "nothing is left to be done";
+	List->SetVisibility(EVisibility::Visible);
+	Frame();
+	EXPECT_EQ(Rows(), "5@0 6@40 7@80");
+}
+
+TEST_F(ListViewTest, ListMadeLongBeforeItIsShownMakesItsRowsThen)
+{
+	AddItems(10);
+	Show(SNew(SBox));
+	List = SArgumentNew(Arguments(), FList);
+	Frame();
+	List->RequestScrollIntoView(Items[9]);
+	Frame();
+	EXPECT_EQ(NumMade, 0);
+	EXPECT_FALSE(List->HasActiveTimers());
+	Window->SetContent(SNew(SBox).HAlign(HAlign_Left).VAlign(VAlign_Top)[SNew(SBox).WidthOverride(100.0f).HeightOverride(100.0f)[List.ToSharedRef()]]);
+	Frame();
+	EXPECT_EQ(Rows(), "7@-20 8@20 9@60");
 }
 
 TEST_F(ListViewTest, RowThatGrowsMovesTheOnesBehindIt)
