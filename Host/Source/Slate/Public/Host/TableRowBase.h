@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Styling/ComboBoxStyle.h"
+#include "Styling/SlateTypes.h"
 #include "Widgets/Layout/SBorder.h"
 #include "Widgets/Views/ITableRow.h"
 
