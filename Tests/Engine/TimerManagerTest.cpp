@@ -40,6 +40,22 @@ namespace
 		EXPECT_EQ(Calls, 11);
 	}
 
+	TEST_F(FTimerManagerTest, LoopingTimerThatEndsItselfIsNotCaughtUpFurther)
+	{
+		FTimerHandle Handle;
+		Timers.SetTimer(Handle, [&]
+		{
+			if (++Calls == 3)
+			{
+				Timers.ClearTimer(Handle);
+			}
+		}, 0.01f, true);
+		Timers.Tick(0.105f);
+		EXPECT_EQ(Calls, 3);
+		EXPECT_FALSE(Handle.IsValid());
+		EXPECT_EQ(Timers.GetNumTimers(), 0);
+	}
+
 	TEST_F(FTimerManagerTest, LoopingTimerMayBeLimitedToOnceAFrame)
 	{
 		FTimerHandle Handle;

@@ -113,4 +113,42 @@ namespace
 		EXPECT_TRUE(IsAt(495, 360));
 		EXPECT_FALSE(IsAt(505, 360));
 	}
+
+	TEST_F(FTransformedHitTest, TurnedFrameCutsDrawingAndPointerAlike)
+	{
+		UCanvasPanel* Frame = NewObject<UCanvasPanel>();
+		Place(Canvas, Frame, FVector2D(300.0, 200.0), FVector2D(200.0, 200.0));
+		Place(Frame, Box, FVector2D(-100.0, -100.0), FVector2D(400.0, 400.0));
+		Frame->SetClipping(EWidgetClipping::ClipToBounds);
+		Frame->SetRenderTransformAngle(45.0f);
+		// A diamond around (400, 300) whose corners are 141 away from it.
+		EXPECT_TRUE(IsAt(400, 165));
+		EXPECT_TRUE(IsAt(535, 300));
+		EXPECT_FALSE(IsAt(400, 155));
+		EXPECT_FALSE(IsAt(310, 210));
+		EXPECT_TRUE(IsAt(335, 240));
+	}
+
+	TEST_F(FTransformedHitTest, FramesTurnedAgainstEachOtherShowWhatIsInBoth)
+	{
+		UCanvasPanel* Outer = NewObject<UCanvasPanel>();
+		UCanvasPanel* Inner = NewObject<UCanvasPanel>();
+		Place(Canvas, Outer, FVector2D(300.0, 200.0), FVector2D(200.0, 200.0));
+		Place(Outer, Inner, FVector2D(0.0, 0.0), FVector2D(200.0, 200.0));
+		Place(Inner, Box, FVector2D(-100.0, -100.0), FVector2D(400.0, 400.0));
+		for (UCanvasPanel* Frame : { Outer, Inner })
+		{
+			Frame->SetClipping(EWidgetClipping::ClipToBounds);
+			Frame->SetRenderTransformAngle(30.0f);
+		}
+		// The frames are turned by 30 and by 60 degrees about (400, 300), 100 to each side; the box fills both.
+		EXPECT_TRUE(IsAt(400, 300));
+		EXPECT_TRUE(IsAt(470, 370));
+		EXPECT_FALSE(IsAt(450, 390)) << "a corner of one alone";
+		EXPECT_FALSE(IsAt(490, 250)) << "a corner of the other alone";
+		Box->SetRenderTransformAngle(20.0f);
+		Box->SetRenderScale(FVector2D(0.3, 0.3));
+		EXPECT_TRUE(IsAt(440, 300));
+		EXPECT_FALSE(IsAt(475, 300));
+	}
 }

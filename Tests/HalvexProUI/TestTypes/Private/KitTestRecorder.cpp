@@ -74,3 +74,18 @@ void UKitTestRecorder::OnMemberSelected(int32 SelectionIndex, FName ButtonSelect
 {
 	Note(FString::Printf(TEXT("selected(%d,%s)"), SelectionIndex, *ButtonSelected.ToString()));
 }
+
+void UKitTestRecorder::OnZoomValueChanged(float ZoomValue)
+{
+	Note(FString::Printf(TEXT("zoom(%.6g)"), ZoomValue));
+}
+
+void UKitTestRecorder::OnStartCaptureMouse()
+{
+	Note(TEXT("start"));
+}
+
+void UKitTestRecorder::OnStopCaptureMouse()
+{
+	Note(TEXT("stop"));
+}

@@ -57,4 +57,13 @@ public:
 
 	UFUNCTION()
 	void OnMemberSelected(int32 SelectionIndex, FName ButtonSelected);
+
+	UFUNCTION()
+	void OnZoomValueChanged(float ZoomValue);
+
+	UFUNCTION()
+	void OnStartCaptureMouse();
+
+	UFUNCTION()
+	void OnStopCaptureMouse();
 };

@@ -1,5 +1,7 @@
 #include "Widgets/HxWidgetSupport.h"
 
+#include "Blueprint/SlateBlueprintLibrary.h"
+#include "Blueprint/WidgetLayoutLibrary.h"
 #include "Style/HalvexStyleModels.h"
 #include "Widgets/Layout/SBox.h"
 
@@ -25,4 +27,9 @@ void HxWidgetSupport::ApplySizeOverride(SBox& SizeBox, const FHalvexSizeOverride
 		SizeBox.SetMinAspectRatio(FOptionalSize(SizeOverride.AspectRatio));
 		SizeBox.SetMaxAspectRatio(FOptionalSize(SizeOverride.AspectRatio));
 	}
+}
+
+FVector2D HxWidgetSupport::GetMouseLocalPos(const FGeometry& Geometry)
+{
+	return USlateBlueprintLibrary::AbsoluteToLocal(Geometry, UWidgetLayoutLibrary::GetMousePositionOnPlatform());
 }

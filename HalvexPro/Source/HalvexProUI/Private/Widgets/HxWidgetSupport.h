@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 
 class SBox;
+struct FGeometry;
 struct FHalvexSizeOverride;
 
 /** What the kit's primitive widgets have in common. */
@@ -13,4 +14,7 @@ namespace HxWidgetSupport
 
 	/** Fixes the size of the box where the override says so, and lets the content have its way where it does not. */
 	void ApplySizeOverride(SBox& SizeBox, const FHalvexSizeOverride& SizeOverride);
+
+	/** Where the mouse is on the platform now, in the units of the geometry; render transforms are undone. */
+	FVector2D GetMouseLocalPos(const FGeometry& Geometry);
 }

@@ -17,7 +17,7 @@
 DEFINE_LOG_CATEGORY_STATIC(LogSlate, Log, All);
 
 FSlateApplication::FSlateApplication()
-	: RememberedCursor(MakeShared<Host::FMemoryCursor>()), Cursor(RememberedCursor.ToSharedRef()), Surfaces(MakeUnique<Host::FWindowSurfaces>()), Pointer(MakeUnique<Host::FPointerTracker>(*this))
+	: RememberedCursor(MakeShared<Host::FMemoryCursor>()), Cursor(RememberedCursor), Surfaces(MakeUnique<Host::FWindowSurfaces>()), Pointer(MakeUnique<Host::FPointerTracker>(*this))
 	, Focus(MakeUnique<Host::FFocusTracker>(*this)), Menus(MakeUnique<Host::FMenuStack>(*this)), ToolTips(MakeUnique<Host::FToolTipPresenter>())
 	, TextInput(MakeUnique<Host::FTextInput>())
 	, CurrentTime(Host::FClock::Now())

@@ -151,12 +151,11 @@ void FSlateApplication::SetCursorPos(const FVector2D& MouseCoordinate)
 void FSlateApplication::SetPlatformCursor(TSharedRef<ICursor> InCursor)
 {
 	Cursor = InCursor;
-	RememberedCursor.Reset();
 }
 
 void FSlateApplication::RememberCursorPos(FVector2D Position)
 {
-	if (RememberedCursor.IsValid())
+	if (&Cursor.Get() == &RememberedCursor.Get())
 	{
 		RememberedCursor->Remember(Position);
 	}

@@ -206,7 +206,7 @@ private:
 	/** Had the focus when the last active window ceased to be it, and gets it back. */
 	TWeakPtr<SWidget> WidgetToFocusAgain;
 	TSharedPtr<FSlateRenderer> Renderer;
-	TSharedPtr<Host::FMemoryCursor> RememberedCursor;
+	TSharedRef<Host::FMemoryCursor> RememberedCursor;
 	/** The remembered one while the system has none. */
 	TSharedRef<ICursor> Cursor;
 	TUniquePtr<Host::FWindowSurfaces> Surfaces;
