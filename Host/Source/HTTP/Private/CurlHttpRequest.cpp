@@ -193,7 +193,9 @@ namespace Host
 		}
 		Transfer->bProgressTold = false;
 		const TSharedRef<FCurlHttpRequest> This = AsSharedRequest();
-		ProgressDelegate.ExecuteIfBound(This, Transfer->BytesSent, Transfer->BytesReceived);
+		// A copy, as whoever is called may bind anew.
+		const FHttpRequestProgressDelegate64 Delegate = ProgressDelegate;
+		Delegate.ExecuteIfBound(This, Transfer->BytesSent, Transfer->BytesReceived);
 	}
 
 	void FCurlHttpRequest::Complete(uint32 ForRun, FCurlTransfer* Ended, EHttpFailureReason Reason)
@@ -218,7 +220,9 @@ namespace Host
 			// Without the address, which may hold secrets: whoever asked knows what to tell of it.
 			UE_LOG(LogHttp, Verbose, TEXT("%s %s failed: %s"), *Verb, *FindServer(Url), Ended ? *Ended->Error : TEXT("cancelled, or no address of http or https"));
 		}
-		CompleteDelegate.ExecuteIfBound(This, Response, bSucceeded);
+		// A copy, as whoever is called may bind anew.
+		const FHttpRequestCompleteDelegate Delegate = CompleteDelegate;
+		Delegate.ExecuteIfBound(This, Response, bSucceeded);
 	}
 
 	void FCurlHttpRequest::CancelAll()
