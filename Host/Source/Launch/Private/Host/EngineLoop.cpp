@@ -39,6 +39,8 @@ namespace Host
 		constexpr double CollectionInterval = 30.0;
 		/** Length of the frames of a headless program: what a screen would give it. */
 		constexpr double HeadlessFrame = 1.0 / 60.0;
+		/** Seconds of real time that an idle program is waited for to hear of its background threads. */
+		constexpr double LongestBackgroundWait = 5.0;
 
 		bool HasUnconfirmedMode(const UGameUserSettings& UserSettings)
 		{
@@ -267,7 +269,17 @@ namespace Host
 		{
 			RunFrame(HeadlessFrame);
 			Passed += HeadlessFrame;
+			WaitForBackgroundWork();
 		} while (Passed < MaxSeconds && GetSecondsUntilNextFrame() >= 0.0 && GetSecondsUntilNextFrame() <= HeadlessFrame);
+	}
+
+	void FEngineLoop::WaitForBackgroundWork()
+	{
+		const double Limit = FPlatformTime::Seconds() + LongestBackgroundWait;
+		while (FBackgroundThreads::GetNumPending() > 0 && FPlatformTime::Seconds() < Limit)
+		{
+			FPlatformProcess::Sleep(0.001f);
+		}
 	}
 
 	double FEngineLoop::GetSecondsUntilNextFrame() const
