@@ -8,7 +8,7 @@ public class HalvexSDK : ModuleRules
 
 		PublicDependencyModuleNames.AddRange(new string[]
 		{
-			"Core", "CoreUObject", "Engine", "Json"
+			"Core", "CoreUObject", "Engine", "DeveloperSettings", "HTTP", "ImageWrapper", "Json"
 		});
 	}
 }

@@ -2,6 +2,10 @@
 
 #include "Host/Texture.h"
 
+void UTexture::UpdateResource()
+{
+}
+
 float UTexture::GetSurfaceWidth() const
 {
 	return SlateTexture ? static_cast<float>(SlateTexture->GetSize().X) : 0.0f;

@@ -19,6 +19,9 @@ public:
 	/** The picture that draw elements show; null when there is none yet. */
 	const TSharedPtr<const Host::FTexture>& GetSlateTexture() const { return SlateTexture; }
 
+	/** Makes what draws the texture ready for it. */
+	virtual void UpdateResource();
+
 	virtual float GetSurfaceWidth() const;
 	virtual float GetSurfaceHeight() const;
 

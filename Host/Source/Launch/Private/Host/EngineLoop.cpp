@@ -1,5 +1,6 @@
 #include "Host/EngineLoop.h"
 
+#include "Containers/Ticker.h"
 #include "Engine/Engine.h"
 #include "Engine/GameInstance.h"
 #include "Engine/GameViewportClient.h"
@@ -8,6 +9,7 @@
 #include "GameFramework/GameUserSettings.h"
 #include "HAL/PlatformProcess.h"
 #include "HAL/PlatformTime.h"
+#include "Host/BackgroundThreads.h"
 #include "Host/Clock.h"
 #include "Host/ConfigFiles.h"
 #include "Host/ConsoleConfig.h"
@@ -21,6 +23,7 @@
 #include "Host/StartModules.h"
 #include "Host/WindowVideoMode.h"
 #include "Misc/ConfigCacheIni.h"
+#include "Misc/CoreDelegates.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "UObject/GarbageCollection.h"
@@ -36,6 +39,8 @@ namespace Host
 		constexpr double CollectionInterval = 30.0;
 		/** Length of the frames of a headless program: what a screen would give it. */
 		constexpr double HeadlessFrame = 1.0 / 60.0;
+		/** Seconds of real time that an idle program is waited for to hear of its background threads. */
+		constexpr double LongestBackgroundWait = 5.0;
 
 		bool HasUnconfirmedMode(const UGameUserSettings& UserSettings)
 		{
@@ -234,6 +239,7 @@ namespace Host
 			FClock::Advance(Seconds);
 		}
 		FGameThreadQueue::Run();
+		FTSTicker::GetCoreTicker().Tick(static_cast<float>(FClock::DeltaTime()));
 		GEngine->Tick(static_cast<float>(FClock::DeltaTime()));
 		FSlateApplication::Get().Tick();
 		CollectGarbageIfDue();
@@ -263,7 +269,17 @@ namespace Host
 		{
 			RunFrame(HeadlessFrame);
 			Passed += HeadlessFrame;
+			WaitForBackgroundWork();
 		} while (Passed < MaxSeconds && GetSecondsUntilNextFrame() >= 0.0 && GetSecondsUntilNextFrame() <= HeadlessFrame);
+	}
+
+	void FEngineLoop::WaitForBackgroundWork()
+	{
+		const double Limit = FPlatformTime::Seconds() + LongestBackgroundWait;
+		while (FBackgroundThreads::GetNumPending() > 0 && FPlatformTime::Seconds() < Limit)
+		{
+			FPlatformProcess::Sleep(0.001f);
+		}
 	}
 
 	double FEngineLoop::GetSecondsUntilNextFrame() const
@@ -285,6 +301,7 @@ namespace Host
 		{
 			Shorten(FMath::Max(0.0, SlateTime - FClock::Now()));
 		}
+		Shorten(FTSTicker::GetCoreTicker().GetSecondsUntilNextCall());
 		if (const UWorld* World = GEngine->GetGameInstance() ? GEngine->GetGameInstance()->GetWorld() : nullptr; World && !World->IsPaused())
 		{
 			Shorten(World->GetTimerManager().GetSecondsUntilNextTimer());
@@ -325,12 +342,17 @@ namespace Host
 			return;
 		}
 		bStarted = false;
+		FCoreDelegates::OnEnginePreExit.Broadcast();
 		if (GEngine)
 		{
 			GEngine->PreExit();
 			// After the widgets have gone, which may have put another mode back.
 			ConfirmVideoMode();
 		}
+		FCoreDelegates::OnExit.Broadcast();
+		FBackgroundThreads::Stop();
+		// What they handed over still belongs to this run.
+		FGameThreadQueue::Run();
 		VideoMode.Reset();
 		Window.Reset();
 		if (FSlateApplication::IsInitialized())

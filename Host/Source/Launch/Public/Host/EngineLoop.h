@@ -69,7 +69,10 @@ namespace Host
 		/** What the window shows. False before the first frame and without a renderer. */
 		bool TakePicture(FPicture& OutPicture);
 
-		/** Runs frames until nothing changes by itself any more, at most for the given seconds of the clock. */
+		/**
+		 * Runs frames until nothing changes by itself any more, at most for the given seconds of the clock. Work in the background
+		 * is waited for; servers are not.
+		 */
 		void RunUntilIdle(double MaxSeconds = 2.0);
 
 	private:
@@ -86,6 +89,7 @@ namespace Host
 		/** Seconds that a frame lasts at least, by the user's limit of frames a second; 0 without one. */
 		static double GetLeastFrameTime();
 		void CollectGarbageIfDue();
+		static void WaitForBackgroundWork();
 
 		FEngineLoopSettings Settings;
 		TUniquePtr<FDesktopApplication> Desktop;

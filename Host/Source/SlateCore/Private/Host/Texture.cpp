@@ -102,6 +102,14 @@ namespace Host
 		return Texture;
 	}
 
+	TSharedRef<FTexture> FTexture::MakeUnfilled(FIntPoint Size, FString DebugName)
+	{
+		TSharedRef<FTexture> Texture = MakeShareable(new FTexture(Size, MoveTemp(DebugName)));
+		Texture->bUpdatable = true;
+		Texture->Pixels.SetNumUninitialized(Size.X * Size.Y);
+		return Texture;
+	}
+
 	TSharedRef<FTexture> FTexture::MakeNative(FIntPoint Size, uint32 NativeHandle, bool bBottomUp, FString DebugName)
 	{
 		TSharedRef<FTexture> Texture = MakeShareable(new FTexture(Size, MoveTemp(DebugName)));

@@ -35,6 +35,12 @@ namespace Host
 		static TSharedRef<FTexture> MakeUpdatable(FIntPoint Size, TConstArrayView<FColor> Pixels, EPixelAlpha Alpha, FString DebugName = FString());
 
 		/**
+		 * As MakeUpdatable, for a picture that is filled part by part before it is shown: its pixels are undefined until then, and
+		 * it is opaque when all that it is filled with is.
+		 */
+		static TSharedRef<FTexture> MakeUnfilled(FIntPoint Size, FString DebugName = FString());
+
+		/**
 		 * A picture that lives in the memory of the OpenGL renderer only, such as a rendered scene. It has no pixels here,
 		 * so the CPU renderer draws nothing for it.
 		 * @param NativeHandle	texture name in a context that shares with the renderer's; whoever made it deletes it

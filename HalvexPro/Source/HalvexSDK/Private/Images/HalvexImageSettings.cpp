@@ -1,0 +1,6 @@
+#include "Images/HalvexImageSettings.h"
+
+UHalvexImageSettings::UHalvexImageSettings()
+{
+	CategoryName = TEXT("Plugins");
+}

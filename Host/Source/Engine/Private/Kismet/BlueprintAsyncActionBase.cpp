@@ -1,0 +1,5 @@
+#include "Kismet/BlueprintAsyncActionBase.h"
+
+void UBlueprintAsyncActionBase::Activate()
+{
+}
