@@ -532,9 +532,13 @@ bool FProjectJson::ReadKey(FName& Out)
 
 bool FProjectJson::Next()
 {
-	if (bBroken || Reader->ReadNext(Notation))
+	if (bBroken)
 	{
-		return !bBroken;
+		return false;
+	}
+	if (Reader->ReadNext(Notation) && Notation != EJsonNotation::Error)
+	{
+		return true;
 	}
 	if (!Reader->GetErrorMessage().IsEmpty())
 	{

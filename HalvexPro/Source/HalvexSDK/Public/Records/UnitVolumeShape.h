@@ -36,7 +36,7 @@ struct HALVEXSDK_API FUnitVolumeShape
 	/** Area of the ground plan in square centimetres, by the shoelace formula. */
 	double GetGroundArea() const;
 
-	/** The four corners of a box, or the outline; counterclockwise seen from above in a frame whose Y axis is left of X. */
+	/** The four corners of a box, or those of the outline, going round the way that X turns to Y. */
 	TArray<FVector2D> GetCorners() const;
 
 	/** Whether a point is inside; those on the surface may count as either. */
