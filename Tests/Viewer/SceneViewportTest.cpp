@@ -19,6 +19,8 @@ namespace
 	protected:
 		virtual void SetUp() override
 		{
+			Variables.Set(TEXT("sg.AntiAliasingQuality"), TEXT("2"));
+			Variables.Set(TEXT("sg.ShadowQuality"), TEXT("1"));
 			BuildCube(*Content);
 			Viewport = SNew(SSceneViewport)
 				.Content(Content);

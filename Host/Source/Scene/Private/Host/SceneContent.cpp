@@ -159,9 +159,8 @@ namespace Host
 		++ColourRevision;
 	}
 
-	void FSceneContent::SetColour(int32 Index, const FLinearColor& Colour)
+	void FSceneContent::SetColour(int32 Index, const FColor& New)
 	{
-		const FColor New = Colour.ToFColorSRGB();
 		FColor& Current = Colours[Index];
 		if (New == Current)
 		{

@@ -107,7 +107,8 @@ namespace Host
 		const TArray<FExtrusion>& GetOutlines() const { return Outlines; }
 
 		/** Sets how a volume is drawn. Costs nothing when it is drawn so already. */
-		void SetColour(int32 Index, const FLinearColor& Colour);
+		void SetColour(int32 Index, const FLinearColor& Colour) { SetColour(Index, Colour.ToFColorSRGB()); }
+		void SetColour(int32 Index, const FColor& Colour);
 		/** As sRGB, B, G, R, A in memory. */
 		const TArray<FColor>& GetColours() const { return Colours; }
 		/** Volumes that are drawn, but not solid. */

@@ -28,6 +28,9 @@ namespace Host
 	{
 		Content = InArgs._Content.IsValid() ? InArgs._Content : MakeShared<FSceneContent>();
 		Picture = MakeUnique<FScenePicture>(InArgs._WindowRenderer);
+		RayCaster = MakeUnique<FSceneRayCaster>(Content.ToSharedRef());
+		OnVolumeHovered = InArgs._OnVolumeHovered;
+		OnVolumeClicked = InArgs._OnVolumeClicked;
 		Camera.SetBounds(Content->GetBounds());
 		Camera.Finish();
 	}
@@ -41,6 +44,7 @@ namespace Host
 	{
 		Move(Camera);
 		Invalidate(EInvalidateWidgetReason::Paint);
+		ViewChanged.Broadcast();
 		if (Camera.IsMoving() && !EasingTimer.IsValid())
 		{
 			EasingTimer = RegisterActiveTimer(0.0f, FWidgetActiveTimerDelegate::CreateSP(this, &SSceneViewport::Ease));
@@ -52,8 +56,40 @@ namespace Host
 		if (Camera.Tick(DeltaTime))
 		{
 			Invalidate(EInvalidateWidgetReason::Paint);
+			ViewChanged.Broadcast();
 		}
-		return Camera.IsMoving() ? EActiveTimerReturnType::Continue : EActiveTimerReturnType::Stop;
+		if (Camera.IsMoving())
+		{
+			return EActiveTimerReturnType::Continue;
+		}
+		if (Cursor.IsSet() && !Press.IsSet())
+		{
+			// Under a cursor that rests there may be something else by now.
+			HoverAt(Cursor.GetValue());
+		}
+		return EActiveTimerReturnType::Stop;
+	}
+
+	void SSceneViewport::FrameAll()
+	{
+		MoveCamera([this](FSceneCamera& Moved) { Moved.Frame(Content->GetBounds(), GetAspectRatio()); });
+	}
+
+	ESceneSpot SSceneViewport::Locate(const FVector& Place, FVector2D& OutPosition)
+	{
+		const FSceneView View = Camera.GetView();
+		const FVector2D Size = GetViewSize();
+		if (!View.Project(Place, Size, OutPosition) || OutPosition.X < 0.0 || OutPosition.Y < 0.0 || OutPosition.X > Size.X || OutPosition.Y > Size.Y)
+		{
+			return ESceneSpot::OutOfView;
+		}
+		return RayCaster->IsBlocked(View.Location, Place) ? ESceneSpot::Hidden : ESceneSpot::InSight;
+	}
+
+	bool SSceneViewport::Pick(const FVector2D& Position, FSceneHit& OutHit)
+	{
+		const FSceneView View = Camera.GetView();
+		return RayCaster->Cast(View.Location, View.Deproject(Position, GetViewSize()), OutHit);
 	}
 
 	double SSceneViewport::GetAspectRatio() const

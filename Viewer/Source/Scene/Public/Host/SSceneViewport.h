@@ -5,13 +5,31 @@
 #include "Host/SceneContent.h"
 #include "Host/ScenePicture.h"
 #include "Host/SceneQualityVariables.h"
+#include "Host/SceneRayCaster.h"
 #include "Widgets/SLeafWidget.h"
 
 namespace Host
 {
+	/** A volume of the scene, or INDEX_NONE. */
+	DECLARE_DELEGATE_OneParam(FOnSceneVolume, int32);
+
+	/** Whether a place of the scene is to be seen. */
+	enum class ESceneSpot : uint8
+	{
+		InSight,
+		/** A solid volume stands before it. */
+		Hidden,
+		/** Beside the picture, or behind the eye. */
+		OutOfView,
+	};
+
 	/**
 	 * Shows a scene over its whole area, in the quality that the console variables ask for. It is drawn when the camera, the
 	 * scene, the size or the quality changed, and else costs nothing. Where OpenGL cannot be used there is a plain background.
+	 *
+	 * Dragging with the left button turns about the target, with the right or the middle one moves it; the wheel comes nearer to
+	 * what is under the cursor; a double click looks at a volume, or beside all of them, at the whole scene. What lies over the
+	 * viewport takes its input before.
 	 */
 	class SSceneViewport : public SLeafWidget
 	{
@@ -20,6 +38,10 @@ namespace Host
 			SLATE_ARGUMENT(TSharedPtr<FSceneContent>, Content)
 			/** What draws the windows, which must outlive the widget; null for none. */
 			SLATE_ARGUMENT(FSlateRenderer*, WindowRenderer)
+			/** The solid volume under the cursor is another one. */
+			SLATE_EVENT(FOnSceneVolume, OnVolumeHovered)
+			/** The left button was pressed and released at one place. INDEX_NONE beside all volumes. */
+			SLATE_EVENT(FOnSceneVolume, OnVolumeClicked)
 		SLATE_END_ARGS()
 
 		SSceneViewport();
@@ -32,6 +54,21 @@ namespace Host
 		void MoveCamera(TFunctionRef<void(FSceneCamera&)> Move);
 		const FSceneCamera& GetCamera() const { return Camera; }
 
+		/** Sends the camera to where it sees the whole scene. */
+		void FrameAll();
+
+		/** Called when the camera moved or the content changed, for what follows places of the scene. */
+		FSimpleMulticastDelegate& OnViewChanged() { return ViewChanged; }
+
+		/**
+		 * Where a place of the scene is seen.
+		 * @param OutPosition	in local units from the top left; unset when it is behind the eye
+		 */
+		ESceneSpot Locate(const FVector& Place, FVector2D& OutPosition);
+
+		/** What is seen at a position, in local units. False when it is no solid volume. */
+		bool Pick(const FVector2D& Position, FSceneHit& OutHit);
+
 		/** Width of the picture for a height of 1, as laid out last. */
 		double GetAspectRatio() const;
 
@@ -41,13 +78,42 @@ namespace Host
 		virtual int32 OnPaint(const FPaintArgs& Args, const FGeometry& AllottedGeometry, const FSlateRect& MyCullingRect, FSlateWindowElementList& OutDrawElements,
 			int32 LayerId, const FWidgetStyle& InWidgetStyle, bool bParentEnabled) const override;
 
+		virtual FReply OnMouseButtonDown(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+		virtual FReply OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+		virtual FReply OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+		virtual FReply OnMouseWheel(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+		virtual FReply OnMouseButtonDoubleClick(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent) override;
+		virtual void OnMouseLeave(const FPointerEvent& MouseEvent) override;
+		virtual void OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent) override;
+
 	private:
+		/** A button that is held down. */
+		struct FPress
+		{
+			FKey Button;
+			/** Where it went down, then where the cursor was last, in local units. */
+			FVector2D Position = FVector2D(0.0, 0.0);
+			bool bDragged = false;
+		};
+
 		EActiveTimerReturnType Ease(double CurrentTime, float DeltaTime);
+		void Drag(const FVector2D& Way);
+		void Hover(int32 Volume);
+		void HoverAt(const FVector2D& Position);
+		FVector2D GetViewSize() const { return FVector2D(GetCachedGeometry().GetLocalSize()); }
 
 		TSharedPtr<FSceneContent> Content;
 		FSceneCamera Camera;
 		TUniquePtr<FScenePicture> Picture;
 		FSceneQualityVariables Quality;
 		TWeakPtr<FActiveTimerHandle> EasingTimer;
+		TUniquePtr<FSceneRayCaster> RayCaster;
+		FSimpleMulticastDelegate ViewChanged;
+		FOnSceneVolume OnVolumeHovered;
+		FOnSceneVolume OnVolumeClicked;
+		TOptional<FPress> Press;
+		/** Where the cursor is over the scene. */
+		TOptional<FVector2D> Cursor;
+		int32 HoveredVolume = INDEX_NONE;
 	};
 }
