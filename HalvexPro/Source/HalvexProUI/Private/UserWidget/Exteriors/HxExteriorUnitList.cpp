@@ -1,8 +1,10 @@
 #include "UserWidget/Exteriors/HxExteriorUnitList.h"
 
 #include "Algo/Reverse.h"
+#include "Algo/Sort.h"
 #include "Components/EditableTextBox.h"
 #include "Components/ListView.h"
+#include "Engine/World.h"
 #include "Filters/UnitsFilterManager.h"
 #include "UObject/Package.h"
 #include "UnitVolumes/UnitVolumeActor.h"
@@ -48,9 +50,9 @@ void UHxExteriorUnitList::ClearSearchFilter()
 
 void UHxExteriorUnitList::SortUnitList()
 {
-	StoredList.Sort([this](const UHxExteriorUnitListObject& A, const UHxExteriorUnitListObject& B)
+	Algo::Sort(StoredList, [this](const UHxExteriorUnitListObject* A, const UHxExteriorUnitListObject* B)
 	{
-		return OnElementSorted(GetDataOf(A), GetDataOf(B));
+		return OnElementSorted(GetDataOf(*A), GetDataOf(*B));
 	});
 	ShowItems(StoredList);
 }

@@ -1,5 +1,6 @@
 #include "UserWidget/Filters/HxFilterPanel.h"
 
+#include "Engine/World.h"
 #include "Filters/UnitFilterCollection.h"
 #include "Filters/UnitsFilterManager.h"
 #include "UnitVolumes/UnitVolumesManager.h"
