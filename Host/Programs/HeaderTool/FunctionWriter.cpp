@@ -142,7 +142,8 @@ namespace HeaderTool
 	{
 		if (HasResult(Function))
 		{
-			Code.Line("return " + GetStoredType(Function.Result) + "{};");
+			// Also right for a pointer, whose type cannot stand before braces.
+			Code.Line("return {};");
 		}
 	}
 

@@ -1,6 +1,7 @@
 #include "Widgets/Input/SComboRow.h"
 
 #include "InputCoreTypes.h"
+#include "Widgets/Views/RowBrush.h"
 #include "Widgets/Text/STextBlock.h"
 
 namespace Host
@@ -98,15 +99,7 @@ namespace Host
 
 	const FSlateBrush* SComboRow::ChooseBrush() const
 	{
-		if (bMarked)
-		{
-			return IsHovered() ? &Style->ActiveHoveredBrush : &Style->ActiveBrush;
-		}
-		if (Index % 2 == 0)
-		{
-			return IsHovered() ? &Style->EvenRowBackgroundHoveredBrush : &Style->EvenRowBackgroundBrush;
-		}
-		return IsHovered() ? &Style->OddRowBackgroundHoveredBrush : &Style->OddRowBackgroundBrush;
+		return ChooseRowBrush(*Style, Index, bMarked, IsHovered());
 	}
 
 	void SComboRow::UpdateLook()

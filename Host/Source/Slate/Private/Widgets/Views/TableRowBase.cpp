@@ -3,6 +3,7 @@
 #include "InputCoreTypes.h"
 #include "Rendering/DrawElements.h"
 #include "Widgets/SBoxPanel.h"
+#include "Widgets/Views/RowBrush.h"
 #include "Widgets/Views/SExpanderArrow.h"
 #include "Widgets/Views/STableViewBase.h"
 
@@ -146,19 +147,7 @@ namespace Host
 
 	const FSlateBrush* STableRowBase::ChooseBrush() const
 	{
-		if (!Style)
-		{
-			return nullptr;
-		}
-		if (State.bSelected && bShowSelection)
-		{
-			return IsHovered() ? &Style->ActiveHoveredBrush : &Style->ActiveBrush;
-		}
-		if (IndexInList % 2 == 0)
-		{
-			return IsHovered() ? &Style->EvenRowBackgroundHoveredBrush : &Style->EvenRowBackgroundBrush;
-		}
-		return IsHovered() ? &Style->OddRowBackgroundHoveredBrush : &Style->OddRowBackgroundBrush;
+		return Style ? ChooseRowBrush(*Style, IndexInList, State.bSelected && bShowSelection, IsHovered()) : nullptr;
 	}
 
 	void STableRowBase::UpdateLook()
