@@ -8,7 +8,7 @@ install_missing_packages
 if [ ! -f Build/release/build.ninja ]; then
 	cmake --preset release > /dev/null
 fi
-Programs="CoreBenchmarks CoreUObjectBenchmarks SlateCoreBenchmarks SlateBenchmarks SlateRendererBenchmarks HalvexProBenchmarks HalvexProUIBenchmarks ProgramBenchmarks"
+Programs="CoreBenchmarks CoreUObjectBenchmarks SlateCoreBenchmarks SlateBenchmarks SlateRendererBenchmarks ViewerBenchmarks HalvexProBenchmarks HalvexProUIBenchmarks ProgramBenchmarks"
 # shellcheck disable=SC2086
 cmake --build --preset release --target $Programs -- --quiet
 

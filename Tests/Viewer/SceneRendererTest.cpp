@@ -350,6 +350,44 @@ TEST_F(FSceneRendererTest, GhostsLetShowWhatIsBehind)
 	EXPECT_EQ(FPictureReader(*Renderer).CountDark(), 0);
 }
 
+TEST_F(FSceneRendererTest, ManyGhostsInARowLookAsOne)
+{
+	Content.SetColour(0, FLinearColor(0.0f, 0.0f, 0.0f, 0.3f));
+	Draw();
+	const FColor One = FPictureReader(*Renderer).At(View, FVector(100.0, 50.0, 1000.0));
+
+	for (const double Height : { 150.0, 450.0, 700.0 })
+	{
+		FSceneBox Box;
+		Box.Centre = FVector(0.0, 0.0, Height);
+		Box.Extent = FVector(480.0, 480.0, 100.0);
+		Box.Colour = FLinearColor(0.0f, 0.0f, 0.0f, 0.3f);
+		Content.AddBox(Box);
+	}
+	Draw();
+	const FColor Many = FPictureReader(*Renderer).At(View, FVector(100.0, 50.0, 1000.0));
+
+	EXPECT_NEAR(Many.G, One.G, 1);
+}
+
+TEST_F(FSceneRendererTest, AnotherSceneIsDrawnAsItIs)
+{
+	Draw();
+	FSceneContent Other;
+	FSceneBox Box;
+	Box.Colour = FLinearColor(0.7f, 0.0f, 0.0f);
+	Box.Centre = FVector(0.0, 0.0, 500.0);
+	Box.Extent = FVector(500.0, 500.0, 500.0);
+	Other.AddBox(Box);
+	FString Error;
+
+	ASSERT_TRUE(Renderer->Draw(Other, View, Size, Quality, Error)) << TCHAR_TO_UTF8(*Error);
+
+	EXPECT_EQ(Renderer->GetCounters().Draws, 2);
+	const FColor Red = FPictureReader(*Renderer).At(View, FVector(0.0, 0.0, 1000.0));
+	EXPECT_GT(Red.R, Red.G + 80);
+}
+
 TEST_F(FSceneRendererTest, DrawCallsDoNotGrowWithTheNumberOfBoxes)
 {
 	const int64 One = Draw().DrawCalls;

@@ -11,6 +11,13 @@ namespace Host
 		/** Changes of colour that are remembered one by one; beyond that it is cheaper to take all of them anew. */
 		constexpr int32 MostRecentColours = 4096;
 
+		/** Far enough from those of other contents, however much is changed. */
+		uint64 MakeFirstRevision()
+		{
+			static uint64 NumContents = 0;
+			return ++NumContents << 40;
+		}
+
 		bool IsGhost(const FColor& Colour)
 		{
 			return Colour.A > 0 && Colour.A < 255;
@@ -77,6 +84,14 @@ namespace Host
 			}
 			return Result;
 		}
+	}
+
+	FSceneContent::FSceneContent()
+		: Revision(MakeFirstRevision())
+		, ShapeRevision(Revision)
+		, ShadowRevision(Revision)
+		, ColourRevision(Revision)
+	{
 	}
 
 	int32 FSceneContent::AddVolume(bool bBox, int32 Index, const FLinearColor& Colour, const FBox& VolumeBounds)

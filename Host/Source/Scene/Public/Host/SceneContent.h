@@ -35,8 +35,11 @@ namespace Host
 		/** Height of the ground in centimetres. */
 		double GroundHeight = 0.0;
 		FLinearColor GroundColour = FLinearColor(0.60f, 0.60f, 0.55f);
-		/** From the scene toward the sun; of any length, above the horizon. */
-		FVector SunDirection = FVector(-0.45, -0.62, 0.80);
+		/**
+		 * From the scene toward the sun; of any length, above the horizon. At first low and to the left of where cameras look at
+		 * first, so that volumes throw long shadows across the picture.
+		 */
+		FVector SunDirection = FVector(0.22, -0.80, 0.56);
 		/** Light of the sun on a surface that faces it. */
 		FLinearColor SunColour = FLinearColor(1.10f, 0.98f, 0.82f);
 		/** Light on a surface that faces up, out of the sun. */
@@ -55,7 +58,7 @@ namespace Host
 
 	/**
 	 * The volumes of a scene, by index in the order in which they were added. It keeps revisions, by which whoever draws or
-	 * searches it knows what changed.
+	 * searches it knows what changed; no two contents ever have the same ones.
 	 */
 	class FSceneContent
 	{
@@ -88,6 +91,10 @@ namespace Host
 			FVector2D Turn;
 			int32 Volume;
 		};
+
+		FSceneContent();
+		FSceneContent(const FSceneContent&) = delete;
+		FSceneContent& operator=(const FSceneContent&) = delete;
 
 		/** INDEX_NONE, after a line in the log, when a number is not finite or a length not above 0. */
 		int32 AddBox(const FSceneBox& Box);
@@ -146,10 +153,10 @@ namespace Host
 		FSceneEnvironment Environment;
 		FBox Bounds = FBox(ForceInit);
 		int32 NumGhosts = 0;
-		uint64 Revision = 1;
-		uint64 ShapeRevision = 1;
-		uint64 ShadowRevision = 1;
-		uint64 ColourRevision = 0;
+		uint64 Revision;
+		uint64 ShapeRevision;
+		uint64 ShadowRevision;
+		uint64 ColourRevision;
 		/** The volumes of the last changes of colour, the newest last. */
 		TArray<int32> RecentColours;
 	};

@@ -185,7 +185,7 @@ namespace Host
 	bool FGlSceneRenderer::Draw(const FSceneContent& Content, const FSceneView& View, FIntPoint Size, const FSceneQuality& Quality, FString& OutError)
 	{
 		const FIntPoint Fitting(FMath::Clamp(Size.X, 1, MaxSize), FMath::Clamp(Size.Y, 1, MaxSize));
-		const FDrawn Wanted = { &Content, Content.GetRevision(), View, Fitting, Quality };
+		const FDrawn Wanted = { Content.GetRevision(), View, Fitting, Quality };
 		if (Picture.IsValid() && Wanted == Drawn)
 		{
 			return true;
@@ -285,17 +285,24 @@ namespace Host
 		DrawBackground(Content);
 		if (Content.GetNumGhosts() > 0)
 		{
-			glEnable(GL_BLEND);
-			glBlendEquation(GL_FUNC_ADD);
-			glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
-			glDepthMask(GL_FALSE);
-			glUseProgram(VolumeProgram.Get());
-			glUniform1i(PassLocation, 1);
-			Shapes.Draw(Counters);
-			glDepthMask(GL_TRUE);
-			glDisable(GL_BLEND);
+			DrawGhosts();
 		}
 		glDisable(GL_CULL_FACE);
+	}
+
+	/** Only the nearest of them is seen at a place: hundreds in a row would else hide what is behind as solid ones do. */
+	void FGlSceneRenderer::DrawGhosts()
+	{
+		glUseProgram(VolumeProgram.Get());
+		glUniform1i(PassLocation, 1);
+		glColorMask(GL_FALSE, GL_FALSE, GL_FALSE, GL_FALSE);
+		Shapes.Draw(Counters);
+		glColorMask(GL_TRUE, GL_TRUE, GL_TRUE, GL_TRUE);
+		glEnable(GL_BLEND);
+		glBlendEquation(GL_FUNC_ADD);
+		glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ZERO, GL_ONE);
+		Shapes.Draw(Counters);
+		glDisable(GL_BLEND);
 	}
 
 	/** After what is solid, so that what that hides is not drawn. */

@@ -34,7 +34,6 @@ namespace Host
 		/** All that a picture depends on. */
 		struct FDrawn
 		{
-			const FSceneContent* Content = nullptr;
 			uint64 Revision = 0;
 			FSceneView View;
 			FIntPoint Size = FIntPoint(0, 0);
@@ -49,6 +48,7 @@ namespace Host
 		void WriteFrame(const FGlSceneFrame& Frame);
 		void DrawBackground(const FSceneContent& Content);
 		void DrawVolumes(const FSceneContent& Content);
+		void DrawGhosts();
 		void KeepPicture();
 
 		FSlateRenderer* WindowRenderer;

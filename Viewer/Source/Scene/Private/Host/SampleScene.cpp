@@ -231,10 +231,6 @@ namespace Host
 		const FBlockColours Clay = { FromHex(0xc98f72), FromHex(0xefe3d8), FromHex(0x546874), FromHex(0xe6d5c6) };
 		const FBlockColours Slate = { FromHex(0x9fb0b8), FromHex(0xe9eef0), FromHex(0x4d6675), FromHex(0xc4d0d4) };
 
-		FSceneEnvironment Environment;
-		// Low from the left, so that the blocks throw long shadows across the picture.
-		Environment.SunDirection = FVector(0.22, -0.80, 0.56);
-		Content.SetEnvironment(Environment);
 		AddGarden(Content);
 		FBuilder North(Content, FSite{ FVector2D(-3300.0, 2150.0), 0.0 });
 		FBlock(North, 10, 1350.0, 6, White).Build();

@@ -10,7 +10,7 @@ namespace Host
 	/** A small scene to look at: a handful of apartment blocks about a green court. */
 	namespace SampleScene
 	{
-		/** Adds the blocks, and sets the environment. */
+		/** Adds the blocks and what grows about them. */
 		void Build(FSceneContent& Content);
 
 		/** From where it looks best. */
