@@ -107,3 +107,25 @@ function StyleCountBar(Bar)
 	}
 	Bar:SetFillColorAndOpacity({ R = 1, G = 1, B = 1, A = 1 })
 end
+
+-- A field to type into, in the frame of a combo box.
+function StyleTextBox(Box)
+	local function Face(Fill, Outline)
+		return Kit.RoundedBrush(Kit.Color("Third", false, Fill), 8, Outline)
+	end
+	local Front = Kit.Slate(Kit.Color("Third"))
+	local Quiet = Kit.Color("Third", false, 0.16)
+	Box.WidgetStyle = {
+		BackgroundImageNormal = Face(0.04, Quiet),
+		BackgroundImageHovered = Face(0.08, Kit.Color("Third", false, 0.32)),
+		BackgroundImageFocused = Face(0.04, Kit.Color("Primary")),
+		BackgroundImageReadOnly = Face(0.02, Quiet),
+		ForegroundColor = Front,
+		FocusedForegroundColor = Front,
+		Padding = Kit.Margin(12, 9),
+		TextStyle = {
+			Font = Models:GetFontInfoFromFontSchema("regular"),
+			ColorAndOpacity = Front,
+		},
+	}
+end
