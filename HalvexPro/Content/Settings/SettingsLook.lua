@@ -38,7 +38,6 @@ function StyleComboBox(Box)
 				NormalPadding = Kit.Margin(0),
 				PressedPadding = Kit.Margin(0),
 			},
-			DownArrowImage = { TintColor = Text },
 			MenuBorderBrush = Kit.RoundedBrush(Kit.Color("Secondary"), 8, Kit.Color("Third", false, 0.24)),
 			MenuBorderPadding = Kit.Margin(4),
 		},

@@ -99,20 +99,20 @@ protected:
 	FReply HandleMouseUp(const FGeometry& Geometry, const FPointerEvent& MouseEvent);
 	FReply HandleMouseWheel(const FGeometry& Geometry, const FPointerEvent& MouseEvent);
 
-private:
 	/** Starts the easing, unless it goes on already. */
 	void CheckSmoothTimer();
 
 	/** Moves the content a part of the way towards the targets, and ends the easing when it is there. */
 	void SmoothTransitionTick();
 
+	/** The mouse in the units of the area. */
+	FVector2D GetMouseLocalPos(const FGeometry& Geometry) const;
+
+private:
 	void StopSmoothTimer();
 
 	/** Adds to the scale that the content has at the moment. */
 	void ZoomBy(float Step);
-
-	/** The mouse in the units of the area. */
-	FVector2D GetMouseLocalPos(const FGeometry& Geometry) const;
 
 	/** A drag is in progress. */
 	bool bIsMouseDown = false;
