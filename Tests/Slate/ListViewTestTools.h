@@ -108,7 +108,12 @@ protected:
 		Log.Add(FString::Printf(TEXT("%s:%s:%s"), What, *(Item.IsValid() ? FString::FromInt(Item->Number) : FString(TEXT("none"))), Causes[Cause]));
 	}
 
-	virtual void TearDown() override { List.Reset(); }
+	/** The window's list reads its items as long as it lives, which must not be longer than they. */
+	virtual void TearDown() override
+	{
+		Show(SNullWidget::NullWidget);
+		List.Reset();
+	}
 
 	TArray<FTestItemPtr> Items;
 	TSharedPtr<FList> List;

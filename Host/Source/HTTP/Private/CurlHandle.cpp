@@ -204,10 +204,9 @@ namespace Host
 			return Transfer->Code > 0 && bHeadersEnded ? EHttpFailureReason::None : EHttpFailureReason::ConnectionError;
 		case CURLE_OPERATION_TIMEDOUT:
 		{
-			// Going silent and taking too long have one number; the time tells which it was.
-			double Taken = 0.0;
-			curl_easy_getinfo(Easy, CURLINFO_TOTAL_TIME, &Taken);
-			const bool bTooLong = Transfer->TotalTimeout > 0.0f && Taken >= static_cast<double>(Transfer->TotalTimeout) * 0.999;
+			// Going silent and taking too long have one number; the time tells which it was. The library's own is from its last look.
+			const std::chrono::duration<double> Taken = std::chrono::steady_clock::now() - Start;
+			const bool bTooLong = Transfer->TotalTimeout > 0.0f && Taken.count() >= static_cast<double>(Transfer->TotalTimeout);
 			return bTooLong ? EHttpFailureReason::TimedOut : EHttpFailureReason::ConnectionError;
 		}
 		case CURLE_COULDNT_RESOLVE_HOST:

@@ -4,6 +4,8 @@
 
 #include "CurlTransfer.h"
 
+#include <chrono>
+
 namespace Host
 {
 	/** A transfer as the library runs it. Used on the worker's thread. */
@@ -37,6 +39,8 @@ namespace Host
 		size_t Refuse(const TCHAR* Reason);
 
 		TSharedRef<FCurlTransfer> Transfer;
+		/** When the transfer began to count its time; the clock of the program may stand. */
+		const std::chrono::steady_clock::time_point Start = std::chrono::steady_clock::now();
 		CURL* Easy;
 		curl_slist* HeaderList = nullptr;
 		int64 HeaderBytes = 0;
