@@ -6,6 +6,9 @@
 #include "Host/GameThreadQueue.h"
 #include "gtest/gtest.h"
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <atomic>
 #include <future>
 
@@ -25,6 +28,17 @@ TEST(AsyncTest, BackgroundWorkRunsOnAnotherThreadAndHandsBack)
 	Host::FGameThreadQueue::Run();
 	EXPECT_TRUE(bElsewhere);
 	EXPECT_TRUE(bBack);
+	Host::FBackgroundThreads::Stop();
+}
+
+TEST(AsyncTest, BackgroundWorkYieldsToTheGameThread)
+{
+	const auto GetNiceness = [] { return ::getpriority(PRIO_PROCESS, static_cast<id_t>(::gettid())); };
+	std::promise<int> Niceness;
+	AsyncTask(ENamedThreads::AnyBackgroundThreadNormalTask, [&] { Niceness.set_value(GetNiceness()); });
+	// There is nothing below the lowest priority, should the tests themselves be run with it.
+	const int Lowest = 19;
+	EXPECT_GE(Niceness.get_future().get(), FMath::Min(GetNiceness() + 1, Lowest));
 	Host::FBackgroundThreads::Stop();
 }
 

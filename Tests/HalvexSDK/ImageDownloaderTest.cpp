@@ -283,6 +283,41 @@ namespace
 		EXPECT_EQ(Listener->Results[0].Texture->GetSlateTexture()->GetPixels()[64 * 40 - 1], 0xffff0000u);
 	}
 
+	TEST_F(FImageDownloaderTest, FramesDoNoMoreThanTheirBudgetWhilePicturesArrive)
+	{
+		constexpr int32 Side = 64;
+		constexpr int32 NumPictures = 6;
+		// A picture and a half.
+		constexpr int64 MostPixels = Side * Side * 3 / 2;
+		Settings->UploadBytesPerFrame = static_cast<int32>(MostPixels) * 4;
+		Server.Hold();
+		for (int32 Index = 0; Index < NumPictures; ++Index)
+		{
+			const std::string Path = "/" + std::to_string(Index) + ".png";
+			Server.Serve(Path, Picture(Side, Side));
+			Begin(OnServer(Path.c_str()));
+		}
+		Server.Release();
+		int64 Longest = 0;
+		int64 Before = Host::FTexture::GetNumWrittenPixels();
+		EXPECT_TRUE(Host::WaitUntil(Loop, [&]
+		{
+			const int64 Now = Host::FTexture::GetNumWrittenPixels();
+			Longest = FMath::Max(Longest, Now - Before);
+			Before = Now;
+			return Listener->Results.Num() == NumPictures;
+		}));
+		EXPECT_GT(Longest, 0);
+		EXPECT_LE(Longest, MostPixels * 4 / 3) << "the smaller levels add a third";
+		for (const auto& Result : Listener->Results)
+		{
+			FIntPoint Size;
+			const TSharedPtr<const Host::FTexture> Texture = Result.Texture->GetSlateTexture();
+			Texture->GetMip(Texture->GetNumMips() - 1, Size);
+		}
+		EXPECT_EQ(Host::FTexture::GetNumWrittenPixels(), Before) << "no level is left for the frame that shows the picture";
+	}
+
 	TEST_F(FImageDownloaderTest, RowThatIsLongerThanASliceIsOneSlice)
 	{
 		Settings->UploadBytesPerFrame = 1;

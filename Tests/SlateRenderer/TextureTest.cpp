@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace Host;
 
 TEST(Texture, KeepsPixelsPremultiplied)
@@ -83,6 +85,106 @@ TEST(Texture, UpdatesMakeNewMips)
 	Texture->Update(FPixelRect::Make(0, 0, 2, 2), Pixels, EPixelAlpha::Straight);
 
 	EXPECT_EQ(Texture->GetMip(1, Size)[0], 0xff5a5a5au);
+}
+
+namespace
+{
+	/** No two pixels alike, half of the rows with see-through ones. */
+	TArray<FColor> MakeMixedPixels(FIntPoint Size)
+	{
+		TArray<FColor> Pixels;
+		for (int32 Index = 0; Index < Size.X * Size.Y; ++Index)
+		{
+			const bool bOpaque = Index / Size.X % 2 == 0;
+			Pixels.Add(FColor(static_cast<uint8>(Index * 7), static_cast<uint8>(Index * 13), static_cast<uint8>(Index * 29), static_cast<uint8>(bOpaque ? 255 : Index * 3)));
+		}
+		return Pixels;
+	}
+
+	void FillRows(FTexture& Texture, TConstArrayView<FColor> Pixels, int32 Top, int32 Bottom)
+	{
+		const int32 Width = Texture.GetSize().X;
+		Texture.Update(FPixelRect::Make(0, Top, Width, Bottom), Pixels.Slice(Top * Width, (Bottom - Top) * Width), EPixelAlpha::Straight);
+	}
+
+	void ExpectSameLevels(const FTexture& Actual, const FTexture& Expected)
+	{
+		for (int32 Level = 0; Level < Expected.GetNumMips(); ++Level)
+		{
+			FIntPoint Size;
+			FIntPoint ActualSize;
+			const uint32* ExpectedPixels = Expected.GetMip(Level, Size);
+			const uint32* ActualPixels = Actual.GetMip(Level, ActualSize);
+			ASSERT_EQ(ActualSize, Size);
+			for (int32 Index = 0; Index < Size.X * Size.Y; ++Index)
+			{
+				ASSERT_EQ(ActualPixels[Index], ExpectedPixels[Index]) << "pixel " << Index << " of level " << Level;
+			}
+		}
+	}
+
+	/** Width, height, and rows that are filled in at a time. */
+	class FTextureFill : public testing::TestWithParam<std::tuple<int32, int32, int32>>
+	{
+	};
+}
+
+TEST_P(FTextureFill, MakesTheLevelsAlongWithTheRows)
+{
+	const auto [Width, Height, Step] = GetParam();
+	const FIntPoint Size(Width, Height);
+	const TArray<FColor> Pixels = MakeMixedPixels(Size);
+	const TSharedRef<const FTexture> Whole = FTexture::Make(Size, Pixels, EPixelAlpha::Straight);
+	const TSharedRef<FTexture> Filled = FTexture::MakeUnfilled(Size);
+	for (int32 Top = 0; Top < Height; Top += Step)
+	{
+		const int64 Before = FTexture::GetNumWrittenPixels();
+		FillRows(*Filled, Pixels, Top, FMath::Min(Top + Step, Height));
+		// Its own pixels, a quarter of them for each further level, and the row of each level that it brings to an end.
+		EXPECT_LE(FTexture::GetNumWrittenPixels() - Before, int64(Width) * Step * 2 + 32);
+	}
+	const int64 AfterFilling = FTexture::GetNumWrittenPixels();
+	FIntPoint LastSize;
+	Filled->GetMip(Filled->GetNumMips() - 1, LastSize);
+
+	EXPECT_EQ(FTexture::GetNumWrittenPixels(), AfterFilling) << "nothing is left to make when it is shown";
+	ExpectSameLevels(*Filled, *Whole);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, FTextureFill, testing::Values(std::make_tuple(64, 64, 7), std::make_tuple(33, 21, 1), std::make_tuple(1, 40, 3),
+	std::make_tuple(40, 1, 1), std::make_tuple(16, 100, 64), std::make_tuple(1, 1, 1)));
+
+TEST(Texture, FilledInAnyOrderItHasTheSameLevels)
+{
+	const FIntPoint Size(24, 24);
+	const TArray<FColor> Pixels = MakeMixedPixels(Size);
+	const TSharedRef<FTexture> Texture = FTexture::MakeUnfilled(Size);
+	FillRows(*Texture, Pixels, 10, 24);
+	FillRows(*Texture, Pixels, 0, 11);
+	FillRows(*Texture, Pixels, 11, 12);
+
+	ExpectSameLevels(*Texture, *FTexture::Make(Size, Pixels, EPixelAlpha::Straight));
+}
+
+TEST(Texture, UpdateKeepsTheRowsOfLevelsThatLieAboveIt)
+{
+	const FIntPoint Size(32, 32);
+	const TArray<FColor> Pixels = MakeMixedPixels(Size);
+	TArray<FColor> Others = MakeMixedPixels(Size);
+	for (int32 Index = 21 * Size.X; Index < Others.Num(); ++Index)
+	{
+		Others[Index] = FColor(1, 2, 3, 255);
+	}
+	const TSharedRef<FTexture> Texture = FTexture::MakeUpdatable(Size, Pixels, EPixelAlpha::Straight);
+	FIntPoint LevelSize;
+	Texture->GetMip(1, LevelSize);
+
+	FillRows(*Texture, Others, 21, 32);
+	const int64 Before = FTexture::GetNumWrittenPixels();
+	Texture->GetMip(1, LevelSize);
+
+	EXPECT_EQ(FTexture::GetNumWrittenPixels() - Before, 16 * 6);
+	ExpectSameLevels(*Texture, *FTexture::Make(Size, Others, EPixelAlpha::Straight));
 }
 
 TEST(Texture, LivingOnesAreCounted)

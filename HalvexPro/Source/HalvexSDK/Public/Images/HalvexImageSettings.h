@@ -55,7 +55,7 @@ public:
 
 	/** Bytes of pixels that become a texture in one frame. */
 	UPROPERTY(EditAnywhere, Config, Category = "Limits", meta = (ClampMin = "1"))
-	int32 UploadBytesPerFrame = 4 * 1024 * 1024;
+	int32 UploadBytesPerFrame = 2 * 1024 * 1024;
 
 	/** Bytes of textures that are kept for the next request; the ones not asked for longest go first. */
 	UPROPERTY(EditAnywhere, Config, Category = "Cache", meta = (ClampMin = "0"))

@@ -4,6 +4,9 @@
 #include "Host/GameThreadQueue.h"
 #include "Misc/AssertionMacros.h"
 
+#include <sys/resource.h>
+#include <unistd.h>
+
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -19,6 +22,15 @@ namespace
 		constexpr uint32 Most = 4;
 		const uint32 Processors = std::thread::hardware_concurrency();
 		return static_cast<int32>(Processors < Fewest + 1 ? Fewest : (Processors - 1 < Most ? Processors - 1 : Most));
+	}
+
+	/** The game thread goes first where processors are few: a frame shall not wait for work that nobody waits for. */
+	void YieldToGameThread()
+	{
+		constexpr int Steps = 5;
+		const id_t Thread = static_cast<id_t>(::gettid());
+		// The system itself cuts it to its lowest priority.
+		::setpriority(PRIO_PROCESS, Thread, ::getpriority(PRIO_PROCESS, Thread) + Steps);
 	}
 
 	class FThreadPool
@@ -65,6 +77,7 @@ namespace
 	private:
 		void Work()
 		{
+			YieldToGameThread();
 			std::unique_lock Lock(Mutex);
 			while (true)
 			{

@@ -6,6 +6,8 @@ namespace Host
 	{
 		int32 NumAliveTextures = 0;
 		uint64 LastTextureId = 0;
+		int64 NumWrittenPixels = 0;
+		constexpr uint32 OpaqueBits = 0xff000000u;
 
 		/** Product of two channels, rounded: exact for all pairs of bytes. */
 		uint32 MultiplyChannels(uint32 A, uint32 B)
@@ -14,30 +16,58 @@ namespace Host
 			return (Product + (Product >> 8)) >> 8;
 		}
 
-		uint32 Premultiply(const FColor& Colour, EPixelAlpha Alpha)
+		uint32 Pack(uint32 B, uint32 G, uint32 R, uint32 A)
 		{
-			uint32 B = Colour.B;
-			uint32 G = Colour.G;
-			uint32 R = Colour.R;
-			uint32 A = Colour.A;
-			if (Alpha == EPixelAlpha::Ignored)
-			{
-				A = 255;
-			}
-			else if (Alpha == EPixelAlpha::Straight)
-			{
-				B = MultiplyChannels(B, A);
-				G = MultiplyChannels(G, A);
-				R = MultiplyChannels(R, A);
-			}
-			else
-			{
-				// Channels above alpha would overflow in blending.
-				B = FMath::Min(B, A);
-				G = FMath::Min(G, A);
-				R = FMath::Min(R, A);
-			}
 			return B | G << 8 | R << 16 | A << 24;
+		}
+
+		uint32 PremultiplyStraight(const FColor& Colour)
+		{
+			const uint32 A = Colour.A;
+			return Pack(MultiplyChannels(Colour.B, A), MultiplyChannels(Colour.G, A), MultiplyChannels(Colour.R, A), A);
+		}
+
+		uint32 TakeOpaque(const FColor& Colour)
+		{
+			return Pack(Colour.B, Colour.G, Colour.R, 255);
+		}
+
+		/** Channels above alpha would overflow in blending. */
+		uint32 CutToAlpha(const FColor& Colour)
+		{
+			const uint32 A = Colour.A;
+			return Pack(FMath::Min<uint32>(Colour.B, A), FMath::Min<uint32>(Colour.G, A), FMath::Min<uint32>(Colour.R, A), A);
+		}
+
+		/** Stores a row; gives the bits that all of its pixels have. */
+		template <typename ConvertType>
+		uint32 StoreRow(uint32* Out, const FColor* In, int32 Count, const ConvertType& Convert)
+		{
+			uint32 CommonBits = MAX_uint32;
+			for (int32 X = 0; X < Count; ++X)
+			{
+				Out[X] = Convert(In[X]);
+				CommonBits &= Out[X];
+			}
+			return CommonBits;
+		}
+
+		uint32 StoreRow(uint32* Out, const FColor* In, int32 Count, EPixelAlpha Alpha)
+		{
+			switch (Alpha)
+			{
+			case EPixelAlpha::Straight:
+			{
+				// Most pictures are opaque, and then there is nothing to multiply.
+				const uint32 CommonBits = StoreRow(Out, In, Count, [](const FColor& Colour) { return Pack(Colour.B, Colour.G, Colour.R, Colour.A); });
+				return CommonBits >= OpaqueBits ? CommonBits : StoreRow(Out, In, Count, PremultiplyStraight);
+			}
+			case EPixelAlpha::Premultiplied:
+				return StoreRow(Out, In, Count, CutToAlpha);
+			case EPixelAlpha::Ignored:
+				break;
+			}
+			return StoreRow(Out, In, Count, TakeOpaque);
 		}
 
 		/** Mean of four pixels, channel by channel, rounded. */
@@ -49,14 +79,13 @@ namespace Host
 			return (Even >> 2 & Mask) | (Odd >> 2 & Mask) << 8;
 		}
 
-		TArray<uint32> Halve(const uint32* Source, FIntPoint SourceSize, FIntPoint Size)
+		/** Makes the rows from First on, as far as Last, of a picture half as large as the source. */
+		void HalveRows(const uint32* Source, FIntPoint SourceSize, uint32* Target, FIntPoint Size, int32 First, int32 Last)
 		{
-			TArray<uint32> Result;
-			Result.SetNumUninitialized(Size.X * Size.Y);
 			const int32 StepX = SourceSize.X > 1 ? 1 : 0;
 			const int32 StepY = SourceSize.Y > 1 ? SourceSize.X : 0;
-			uint32* Out = Result.GetData();
-			for (int32 Y = 0; Y < Size.Y; ++Y)
+			uint32* Out = Target + static_cast<int64>(First) * Size.X;
+			for (int32 Y = First; Y < Last; ++Y)
 			{
 				const uint32* In = Source + static_cast<int64>(Y) * (StepY ? 2 : 1) * SourceSize.X;
 				for (int32 X = 0; X < Size.X; ++X, In += 2)
@@ -64,7 +93,6 @@ namespace Host
 					*Out++ = Average(In[0], In[StepX], In[StepY], In[StepX + StepY]);
 				}
 			}
-			return Result;
 		}
 
 		FIntPoint HalvedSize(FIntPoint Size)
@@ -77,6 +105,7 @@ namespace Host
 		: Size(InSize)
 		, DebugName(MoveTemp(InDebugName))
 		, Id(++LastTextureId)
+		, NumFilledRows(InSize.Y)
 	{
 		checkf(Size.X > 0 && Size.Y > 0 && Size.X <= MaxSize && Size.Y <= MaxSize, TEXT("a texture cannot be %d x %d pixels"), Size.X, Size.Y);
 		++NumAliveTextures;
@@ -107,6 +136,7 @@ namespace Host
 		TSharedRef<FTexture> Texture = MakeShareable(new FTexture(Size, MoveTemp(DebugName)));
 		Texture->bUpdatable = true;
 		Texture->Pixels.SetNumUninitialized(Size.X * Size.Y);
+		Texture->NumFilledRows = 0;
 		return Texture;
 	}
 
@@ -136,18 +166,14 @@ namespace Host
 	{
 		checkf(Source.Num() == Area.Area(), TEXT("%d pixels were given for an area of %d"), Source.Num(), static_cast<int32>(Area.Area()));
 		const FColor* In = Source.GetData();
-		uint32 AllAlphas = 0xff000000u;
+		uint32 CommonBits = OpaqueBits;
 		for (int32 Y = Area.Top; Y < Area.Bottom; ++Y)
 		{
-			uint32* Out = Pixels.GetData() + static_cast<int64>(Y) * Size.X;
-			for (int32 X = Area.Left; X < Area.Right; ++X)
-			{
-				const uint32 Pixel = Premultiply(*In++, Alpha);
-				Out[X] = Pixel;
-				AllAlphas &= Pixel;
-			}
+			CommonBits &= StoreRow(Pixels.GetData() + static_cast<int64>(Y) * Size.X + Area.Left, In, Area.Width(), Alpha);
+			In += Area.Width();
 		}
-		bOpaque = bOpaque && AllAlphas == 0xff000000u;
+		bOpaque = bOpaque && CommonBits == OpaqueBits;
+		NumWrittenPixels += Area.Area();
 	}
 
 	void FTexture::Update(const FPixelRect& Area, TConstArrayView<FColor> Source, EPixelAlpha Alpha)
@@ -159,8 +185,45 @@ namespace Host
 			return;
 		}
 		Store(Area, Source, Alpha);
-		Mips.Reset();
 		++Generation;
+		// Rows of levels that came from rows above the area are still right.
+		int32 NumRows = Area.Top;
+		for (FMip& Mip : Mips)
+		{
+			NumRows /= 2;
+			Mip.NumRows = FMath::Min(Mip.NumRows, NumRows);
+		}
+		if (NumFilledRows < Size.Y && Area.Width() == Size.X && Area.Top <= NumFilledRows)
+		{
+			NumFilledRows = FMath::Max(NumFilledRows, Area.Bottom);
+			MakeMips(GetNumMips() - 1, NumFilledRows);
+		}
+	}
+
+	void FTexture::MakeMips(int32 Count, int32 NumSourceRows) const
+	{
+		const uint32* Source = Pixels.GetData();
+		FIntPoint SourceSize = Size;
+		for (int32 Index = 0; Index < Count; ++Index)
+		{
+			if (Index == Mips.Num())
+			{
+				FMip& Added = Mips.AddDefaulted_GetRef();
+				Added.Size = HalvedSize(SourceSize);
+				Added.Pixels.SetNumUninitialized(Added.Size.X * Added.Size.Y);
+			}
+			FMip& Mip = Mips[Index];
+			const int32 NumRows = NumSourceRows == SourceSize.Y ? Mip.Size.Y : NumSourceRows / 2;
+			if (Mip.NumRows < NumRows)
+			{
+				HalveRows(Source, SourceSize, Mip.Pixels.GetData(), Mip.Size, Mip.NumRows, NumRows);
+				NumWrittenPixels += static_cast<int64>(NumRows - Mip.NumRows) * Mip.Size.X;
+				Mip.NumRows = NumRows;
+			}
+			Source = Mip.Pixels.GetData();
+			SourceSize = Mip.Size;
+			NumSourceRows = Mip.NumRows;
+		}
 	}
 
 	const uint32* FTexture::GetPixels() const
@@ -181,22 +244,19 @@ namespace Host
 	const uint32* FTexture::GetMip(int32 Level, FIntPoint& OutSize) const
 	{
 		OutSize = Size;
+		Level = FMath::Min(Level, GetNumMips() - 1);
 		if (Level <= 0 || Pixels.Num() == 0)
 		{
 			return GetPixels();
 		}
-		Level = FMath::Min(Level, GetNumMips() - 1);
-		while (Mips.Num() < Level)
-		{
-			const uint32* Source = Mips.Num() > 0 ? Mips.Last().Pixels.GetData() : Pixels.GetData();
-			const FIntPoint SourceSize = Mips.Num() > 0 ? Mips.Last().Size : Size;
-			FMip Mip;
-			Mip.Size = HalvedSize(SourceSize);
-			Mip.Pixels = Halve(Source, SourceSize, Mip.Size);
-			Mips.Add(MoveTemp(Mip));
-		}
+		MakeMips(Level, Size.Y);
 		OutSize = Mips[Level - 1].Size;
 		return Mips[Level - 1].Pixels.GetData();
+	}
+
+	int64 FTexture::GetNumWrittenPixels()
+	{
+		return NumWrittenPixels;
 	}
 
 	int32 FTexture::GetNumAlive()

@@ -36,7 +36,8 @@ namespace Host
 
 		/**
 		 * As MakeUpdatable, for a picture that is filled part by part before it is shown: its pixels are undefined until then, and
-		 * it is opaque when all that it is filled with is.
+		 * it is opaque when all that it is filled with is. Filled by whole rows from the top, it makes the smaller levels along
+		 * with each part, so that the frame which shows it first has nothing left to make.
 		 */
 		static TSharedRef<FTexture> MakeUnfilled(FIntPoint Size, FString DebugName = FString());
 
@@ -70,7 +71,7 @@ namespace Host
 
 		/**
 		 * The picture halved Level times in each direction (at least one pixel stays), averaged over two by two pixels.
-		 * Made when first asked for. Level 0 is the picture itself.
+		 * Made when first asked for, as far as it is not there yet. Level 0 is the picture itself.
 		 */
 		const uint32* GetMip(int32 Level, FIntPoint& OutSize) const;
 		/** Number of levels down to one pixel, level 0 included. */
@@ -78,6 +79,9 @@ namespace Host
 
 		/** Replaces a part of an updatable texture. Pixels holds the rows of Area, which must lie within the texture. */
 		void Update(const FPixelRect& Area, TConstArrayView<FColor> Pixels, EPixelAlpha Alpha);
+
+		/** Pixels written into the textures of this process so far, those of smaller levels included: the work they made. */
+		static int64 GetNumWrittenPixels();
 
 		/** Textures alive now, for the account at shutdown. */
 		static int32 GetNumAlive();
@@ -89,16 +93,23 @@ namespace Host
 
 		struct FMip
 		{
-			FIntPoint Size;
+			FIntPoint Size = FIntPoint(0, 0);
 			TArray<uint32> Pixels;
+			/** Rows from the top that are made and up to date. */
+			int32 NumRows = 0;
 		};
+
+		/** Makes what is missing of the first smaller levels, as far as the first rows of the picture give it. */
+		void MakeMips(int32 Count, int32 NumSourceRows) const;
 
 		FIntPoint Size;
 		TArray<uint32> Pixels;
-		/** Levels from 1 on, as far as they were asked for. */
+		/** Levels from 1 on, as far as they are made. */
 		mutable TArray<FMip> Mips;
 		FString DebugName;
 		uint64 Id;
+		/** Rows from the top that are filled in, as far as that is followed; all of them for a picture that was made with pixels. */
+		int32 NumFilledRows;
 		uint32 Generation = 1;
 		uint32 NativeHandle = 0;
 		bool bUpdatable = false;
