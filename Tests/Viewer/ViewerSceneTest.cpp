@@ -83,3 +83,29 @@ TEST(ViewerScene, AScreenLiesOverTheScene)
 	EXPECT_EQ(Run.ExitCode, 0) << Run.Log;
 	EXPECT_TRUE(Host::ComparePictures(Alone.Picture, Run.Picture).IsSame()) << "the gallery has a background of its own";
 }
+
+TEST(ViewerScene, AProjectIsShownInThePlaceOfTheGallery)
+{
+	const std::string Script = (std::filesystem::temp_directory_path() / ("ViewerScene" + std::to_string(::getpid()) + ".lua")).string();
+	std::ofstream(Script) << "Click(240, 8)\n";
+	const FViewerRun Run = RunViewer("", "--renderer cpu --project " HALVEX_SOURCE_DIR "/Viewer/Projects/Quayside --script " + Script);
+	const FViewerRun Gallery = RunViewer("", "--renderer cpu --project none");
+	std::filesystem::remove(Script);
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Log;
+	EXPECT_EQ(Gallery.ExitCode, 0) << Gallery.Log;
+	EXPECT_FALSE(Host::ComparePictures(Gallery.Picture, Run.Picture).IsSame());
+	EXPECT_GT(CountColours(Run.Picture), 1000);
+}
+
+TEST(ViewerScene, WithABrokenProjectTheViewerGoesOnWithoutOne)
+{
+	const FViewerRun Run = RunViewer("", "--renderer cpu --project /nonexistent");
+	const FViewerRun Gallery = RunViewer("", "--renderer cpu --project none");
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Log;
+	EXPECT_TRUE(Host::ComparePictures(Gallery.Picture, Run.Picture).IsSame());
+	const size_t Line = Run.Log.find("/nonexistent/project.json: the file cannot be read");
+	ASSERT_NE(Line, std::string::npos) << Run.Log;
+	EXPECT_EQ(Run.Log.find("Warning", Line), std::string::npos) << Run.Log;
+}

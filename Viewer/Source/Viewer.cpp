@@ -12,6 +12,7 @@
 #include "Host/DumpWidgetTree.h"
 #include "Host/FontServices.h"
 #include "Host/PictureCompare.h"
+#include "Host/ProjectScene.h"
 #include "Host/SSceneViewport.h"
 #include "Host/SampleScene.h"
 #include "Misc/App.h"
@@ -30,8 +31,9 @@ namespace
 	/** How long a written file may take to show at design time. */
 	constexpr float SecondsBetweenLooks = 0.5f;
 
-	/** Place of the scene among what the viewport shows: below everything. */
-	constexpr int32 SceneOrder = -1000000;
+	/** The screen of a project's units, and the one for everything else. */
+	const TCHAR* const UnitsScreen = TEXT("Units");
+	const TCHAR* const GalleryScreen = TEXT("Gallery");
 
 	bool HasDisplay()
 	{
@@ -72,6 +74,8 @@ FViewer::FViewer(const FViewerOptions& InOptions)
 	Options.bHeadless |= Options.bListScreens;
 }
 
+FViewer::~FViewer() = default;
+
 int32 FViewer::Run()
 {
 	FApp::SetProjectName(TEXT("HalvexViewer"));
@@ -94,6 +98,7 @@ int32 FViewer::Run()
 	}
 	Designer.Reset();
 	Scene.Reset();
+	Project.Reset();
 	Loop.Exit();
 	return ExitCode == 0 && Options.bHeadless && Errors.NumErrors > 0 ? 1 : ExitCode;
 }
@@ -132,6 +137,10 @@ bool FViewer::ChooseStyle(const FString& StylePath)
 	}
 	GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = Style;
 	UHalvexUISubsystem::Get()->RefreshSettingsReferences();
+	if (Project)
+	{
+		Project->RefreshColours();
+	}
 	return true;
 }
 
@@ -150,7 +159,9 @@ int32 FViewer::RunScreen()
 	{
 		ShowScene();
 	}
-	if (!Options.Screen.IsEmpty() && (Options.bDesign ? !ShowDesign() : !ViewerScreens::Show(Options.Screen)))
+	ShowProject();
+	const FString Screen = ChooseScreen();
+	if (!Screen.IsEmpty() && (Options.bDesign ? !ShowDesign(Screen) : !ShowScreen(Screen)))
 	{
 		return 1;
 	}
@@ -178,12 +189,48 @@ void FViewer::ShowScene()
 		.Content(Content)
 		.WindowRenderer(Loop.GetRenderer());
 	Scene->MoveCamera([](Host::FSceneCamera& Camera) { Camera.JumpTo(Host::SampleScene::GetPose()); });
-	GEngine->GameViewport->AddViewportWidgetContent(Scene.ToSharedRef(), SceneOrder);
+	GEngine->GameViewport->AddViewportWidgetContent(Scene.ToSharedRef(), Host::SSceneViewport::ViewportOrder);
 }
 
-bool FViewer::ShowDesign()
+void FViewer::ShowProject()
 {
-	const FString ClassPath = ViewerScreens::FindClassPath(Options.Screen);
+	// Without its screen the sample would be behind the gallery, where nobody sees it.
+	const bool bSample = Options.bSampleProject && ViewerScreens::List().Contains(UnitsScreen);
+	const FString Folder = bSample ? FString(TEXT(HALVEX_SAMPLE_PROJECT)) : Options.Project;
+	FProjectData Data;
+	if (!Folder.IsEmpty() && Host::FProjectScene::Load(Folder, Data))
+	{
+		const FVector2D Size = Loop.GetWindow()->GetClientSizeInScreen();
+		Project = MakeUnique<Host::FProjectScene>(Data, Loop.GetRenderer(), Size.X / Size.Y);
+	}
+}
+
+FString FViewer::ChooseScreen() const
+{
+	if (!Options.Screen.IsEmpty())
+	{
+		return Options.Screen;
+	}
+	if (Project && ViewerScreens::List().Contains(UnitsScreen))
+	{
+		return UnitsScreen;
+	}
+	return Project || Scene ? FString() : FString(GalleryScreen);
+}
+
+UUserWidget* FViewer::ShowScreen(const FString& Name)
+{
+	UUserWidget* const Screen = ViewerScreens::Show(Name);
+	if (Screen && Project)
+	{
+		Project->AnnounceUnits();
+	}
+	return Screen;
+}
+
+bool FViewer::ShowDesign(const FString& Screen)
+{
+	const FString ClassPath = ViewerScreens::FindClassPath(Screen);
 	if (ClassPath.IsEmpty())
 	{
 		return false;
@@ -223,6 +270,7 @@ int32 FViewer::WriteAllScreens()
 {
 	const FString Folder = FPaths::ConvertRelativePathToFull(TEXT("HalvexPictures"));
 	Print(FString::Printf(TEXT("There is no display: the screens are written as pictures to %s."), *Folder));
+	ShowProject();
 	for (const TCHAR* Style : ShippedStyles)
 	{
 		if (!ChooseStyle(FString::Printf(TEXT("/HalvexPro/Widgets/%s.%s"), Style, Style)))
@@ -231,7 +279,7 @@ int32 FViewer::WriteAllScreens()
 		}
 		for (const FString& Name : ViewerScreens::List())
 		{
-			UUserWidget* Screen = ViewerScreens::Show(Name);
+			UUserWidget* Screen = ShowScreen(Name);
 			if (!Screen)
 			{
 				return 1;

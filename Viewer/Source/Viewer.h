@@ -6,8 +6,11 @@
 #include "Host/WidgetDesigner.h"
 #include "ViewerOptions.h"
 
+class UUserWidget;
+
 namespace Host
 {
+	class FProjectScene;
 	class SSceneViewport;
 }
 
@@ -16,6 +19,7 @@ class FViewer
 {
 public:
 	explicit FViewer(const FViewerOptions& InOptions);
+	~FViewer();
 
 	/** Runs to the end. Gives the exit code: 0, or 1 when something could not be started, loaded or written. */
 	int32 Run();
@@ -39,8 +43,14 @@ private:
 	int32 RunScreen();
 	/** Shows the 3D scene under all screens. */
 	void ShowScene();
+	/** Shows the project under all screens, if it can be read. */
+	void ShowProject();
+	/** The screen that was asked for, or the one for what else is shown; empty for none. */
+	FString ChooseScreen() const;
+	/** Shows a screen, and tells it of the project. Null when there is no such screen. */
+	UUserWidget* ShowScreen(const FString& Name);
 	/** Shows the screen at design time. */
-	bool ShowDesign();
+	bool ShowDesign(const FString& Screen);
 	bool WritePicture(const FString& File);
 
 	/** Writes a picture of every screen in every shipped style, for a machine without a display. */
@@ -53,6 +63,8 @@ private:
 	TUniquePtr<Host::FWidgetDesigner> Designer;
 	/** Set while a 3D scene is shown; gone before the engine stops. */
 	TSharedPtr<Host::SSceneViewport> Scene;
+	/** Set while a project is shown; gone before the engine stops. */
+	TUniquePtr<Host::FProjectScene> Project;
 	/** True when a window was wanted and there is no display. */
 	bool bNoDisplay = false;
 };

@@ -38,16 +38,19 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	App.set_version_flag("--version", std::string("HalvexViewer " HALVEX_VERSION));
 	App.failure_message([](const CLI::App*, const CLI::Error& Error) { return std::string("HalvexViewer: ") + Error.what() + " (--help lists the arguments)\n"; });
 
-	std::string Screen = "Gallery";
+	std::string Screen;
 	std::string Scene;
+	std::string Project;
 	std::string Style;
 	std::string Size;
 	std::string Renderer = "auto";
 	std::string Screenshot;
 	std::string Script;
-	const CLI::Option* const ScreenOption = App.add_option("--screen", Screen, "Screen to show")->type_name("NAME");
-	const CLI::Option* const SceneOption = App.add_option("--scene", Scene, "3D scene to show under the screen, or alone when no screen is named")
+	App.add_option("--screen", Screen, "Screen to show; without it, that of the units of a project, or the gallery")->type_name("NAME");
+	App.add_option("--scene", Scene, "3D scene to show under the screen, or alone when no screen is named")
 		->type_name("sample")->check(CLI::IsMember({ "sample" }));
+	App.add_option("--project", Project, "Folder of a building project to show in 3D under the screen, or none; without it, and without a screen, the sample")
+		->type_name("FOLDER|none")->excludes("--scene");
 	App.add_flag("--list-screens", OutOptions.bListScreens, "List the screens and end");
 	App.add_option("--style", Style, "Style configuration to use instead of the project's")->type_name("OBJECTPATH");
 	App.add_option("--size", Size, "Size of the window in pixels")->type_name("WxH")->check([](const std::string& Text)
@@ -72,9 +75,10 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 		return App.exit(Error, std::cout, std::cerr) == 0 ? EViewerStart::Done : EViewerStart::Refused;
 	}
 
-	const bool bSceneAlone = SceneOption->count() > 0 && ScreenOption->count() == 0;
-	OutOptions.Screen = bSceneAlone ? FString() : ToFString(Screen);
+	OutOptions.Screen = ToFString(Screen);
 	OutOptions.Scene = ToFString(Scene);
+	OutOptions.Project = Project == "none" ? FString() : ToFString(Project);
+	OutOptions.bSampleProject = Project.empty() && Screen.empty() && Scene.empty() && !OutOptions.bDesign && !OutOptions.bListScreens;
 	OutOptions.Style = ToFString(Style);
 	OutOptions.Screenshot = ToFString(Screenshot);
 	OutOptions.Script = ToFString(Script);

@@ -6,10 +6,14 @@
 /** What the command line says. */
 struct FViewerOptions
 {
-	/** Name of the screen to show; empty for none. */
-	FString Screen = TEXT("Gallery");
+	/** Name of the screen to show; empty to choose one for what else is shown. */
+	FString Screen;
 	/** Name of the 3D scene to show under the screen; empty for none. */
 	FString Scene;
+	/** Folder of the building project to show under the screen; empty for none. */
+	FString Project;
+	/** Show the sample project when the screen of units comes up and no project was named. */
+	bool bSampleProject = false;
 	bool bListScreens = false;
 	/** Object path of the style configuration; empty for the one of the project settings. */
 	FString Style;

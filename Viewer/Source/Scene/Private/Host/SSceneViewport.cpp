@@ -37,7 +37,13 @@ namespace Host
 
 	void SSceneViewport::ContentChanged()
 	{
-		MoveCamera([this](FSceneCamera& Moved) { Moved.SetBounds(Content->GetBounds()); });
+		MoveCamera([this](FSceneCamera& Moved) { Moved.SetBounds(GetSubject()); });
+	}
+
+	void SSceneViewport::SetSubject(const FBox& InSubject)
+	{
+		Subject = InSubject;
+		ContentChanged();
 	}
 
 	void SSceneViewport::MoveCamera(TFunctionRef<void(FSceneCamera&)> Move)
@@ -72,7 +78,7 @@ namespace Host
 
 	void SSceneViewport::FrameAll()
 	{
-		MoveCamera([this](FSceneCamera& Moved) { Moved.Frame(Content->GetBounds(), GetAspectRatio()); });
+		MoveCamera([this](FSceneCamera& Moved) { Moved.Frame(GetSubject(), GetAspectRatio()); });
 	}
 
 	ESceneSpot SSceneViewport::Locate(const FVector& Place, FVector2D& OutPosition)

@@ -117,12 +117,13 @@ namespace Host
 			return FReply::Unhandled();
 		}
 		FSceneHit Hit;
-		if (!Pick(GetPosition(MyGeometry, MouseEvent), Hit))
+		const bool bHit = Pick(GetPosition(MyGeometry, MouseEvent), Hit);
+		const FBox Bounds = bHit ? Content->GetVolumeBounds(Hit.Volume) : FBox(ForceInit);
+		if (!bHit || !GetSubject().IsInsideOrOn(Bounds.Min) || !GetSubject().IsInsideOrOn(Bounds.Max))
 		{
 			FrameAll();
 			return FReply::Handled();
 		}
-		const FBox Bounds = Content->GetVolumeBounds(Hit.Volume);
 		const double Radius = FocusRadii * 0.5 * (Bounds.Max - Bounds.Min).Size();
 		MoveCamera([&](FSceneCamera& Moved) { Moved.Focus((Bounds.Min + Bounds.Max) * 0.5, Radius, GetAspectRatio()); });
 		return FReply::Handled();

@@ -28,12 +28,15 @@ namespace Host
 	 * scene, the size or the quality changed, and else costs nothing. Where OpenGL cannot be used there is a plain background.
 	 *
 	 * Dragging with the left button turns about the target, with the right or the middle one moves it; the wheel comes nearer to
-	 * what is under the cursor; a double click looks at a volume, or beside all of them, at the whole scene. What lies over the
-	 * viewport takes its input before.
+	 * what is under the cursor; a double click looks at a volume of the subject, or beside all of them, at the whole subject. What
+	 * lies over the viewport takes its input before.
 	 */
 	class SSceneViewport : public SLeafWidget
 	{
 	public:
+		/** Place among what the game's viewport shows: below everything. */
+		static constexpr int32 ViewportOrder = -1000000;
+
 		SLATE_BEGIN_ARGS(SSceneViewport) : _WindowRenderer(nullptr) {}
 			SLATE_ARGUMENT(TSharedPtr<FSceneContent>, Content)
 			/** What draws the windows, which must outlive the widget; null for none. */
@@ -50,11 +53,14 @@ namespace Host
 		/** To be called after the content was changed. */
 		void ContentChanged();
 
+		/** What the scene is about, without its surroundings: the camera keeps to it. Invalid, as at first, for all there is. */
+		void SetSubject(const FBox& InSubject);
+
 		/** Lets the function send the camera elsewhere, and eases toward there. */
 		void MoveCamera(TFunctionRef<void(FSceneCamera&)> Move);
 		const FSceneCamera& GetCamera() const { return Camera; }
 
-		/** Sends the camera to where it sees the whole scene. */
+		/** Sends the camera to where it sees the whole subject. */
 		void FrameAll();
 
 		/** Called when the camera moved or the content changed, for what follows places of the scene. */
@@ -96,6 +102,7 @@ namespace Host
 			bool bDragged = false;
 		};
 
+		const FBox& GetSubject() const { return Subject.IsValid ? Subject : Content->GetBounds(); }
 		EActiveTimerReturnType Ease(double CurrentTime, float DeltaTime);
 		void Drag(const FVector2D& Way);
 		void Hover(int32 Volume);
@@ -103,6 +110,7 @@ namespace Host
 		FVector2D GetViewSize() const { return FVector2D(GetCachedGeometry().GetLocalSize()); }
 
 		TSharedPtr<FSceneContent> Content;
+		FBox Subject = FBox(ForceInit);
 		FSceneCamera Camera;
 		TUniquePtr<FScenePicture> Picture;
 		FSceneQualityVariables Quality;

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Host/SSceneViewport.h"
+#include "Project/ProjectData.h"
+#include "UObject/StrongObjectPtr.h"
+
+class AUnitVolumesManager;
+class UUnitSceneBinding;
+
+namespace Host
+{
+	/** A building project in the world of the running game, with a 3D view of its units under all screens. */
+	class FProjectScene
+	{
+	public:
+		/**
+		 * Reads the project of a folder. What is wrong is logged.
+		 * @return false when there are no units; that is one line in the log
+		 */
+		static bool Load(const FString& Folder, FProjectData& OutProject);
+
+		/**
+		 * Puts the project's units into the world and shows them.
+		 * @param WindowRenderer	as for SSceneViewport
+		 * @param AspectRatio	width of the window for a height of 1: the camera starts where it sees all units
+		 */
+		FProjectScene(const FProjectData& Project, FSlateRenderer* WindowRenderer, double AspectRatio);
+
+		/** Takes everything out of the world again. */
+		~FProjectScene();
+		FProjectScene(const FProjectScene&) = delete;
+		FProjectScene& operator=(const FProjectScene&) = delete;
+
+		/** Tells screens that came after the units of them. */
+		void AnnounceUnits();
+
+		/** To be called when the style was changed. */
+		void RefreshColours();
+
+		AUnitVolumesManager& GetManager() const { return *Manager; }
+		SSceneViewport& GetViewport() const { return *Viewport; }
+		const UUnitSceneBinding& GetBinding() const { return *Binding; }
+
+	private:
+		TStrongObjectPtr<AUnitVolumesManager> Manager;
+		TStrongObjectPtr<UUnitSceneBinding> Binding;
+		TSharedPtr<SSceneViewport> Viewport;
+	};
+}
