@@ -144,6 +144,56 @@ TEST_F(RendererAgreement, AfterATextureWasUpdated)
 	ExpectAgreement(Elements, TEXT("Updated"));
 }
 
+TEST_F(RendererAgreement, PictureThatWasTakenOverPartByPart)
+{
+	constexpr int32 Side = 64;
+	const TSharedRef<const FTexture> Pattern = MakeTestTexture(Side, Side);
+	const TConstArrayView<FColor> Pixels(reinterpret_cast<const FColor*>(Pattern->GetPixels()), Side * Side);
+	const TSharedRef<FTexture> Texture = FTexture::MakeUnfilled(FIntPoint(Side, Side));
+	// Brings the glyphs of other tests.
+	Draw(*Gl, FIntPoint(192, 128), { MakeBox(4, 4, 60, 40, Blue) });
+	const int64 Before = Gl->GetCounters().UploadedBytes;
+	int64 Taken = Before;
+	for (int32 Top = 0; Top < Side; Top += 7)
+	{
+		const FPixelRect Area = FPixelRect::Make(0, Top, Side, FMath::Min(Top + 7, Side));
+		Texture->Update(Area, Pixels.Slice(Top * Side, Area.Height() * Side), EPixelAlpha::Premultiplied);
+		Gl->TakeFilled(Texture, Area);
+		EXPECT_LE(Gl->GetCounters().UploadedBytes - Taken, 7 * Side * 4 * 2) << "a part and its share of the smaller levels";
+		Taken = Gl->GetCounters().UploadedBytes;
+	}
+	EXPECT_EQ(Taken - Before, (64 * 64 + 32 * 32 + 16 * 16 + 8 * 8 + 4 * 4 + 2 * 2 + 1) * 4) << "every pixel once";
+
+	const FElements Elements = { MakeImage(0, 0, Side, Side, Texture), MakeImage(80, 0, 20, 20, Texture), MakeImage(110, 0, 4, 4, Texture) };
+	const FPicture ByGl = Draw(*Gl, FIntPoint(192, 128), Elements);
+	EXPECT_EQ(Gl->GetCounters().UploadedBytes, Taken) << "nothing is left for the frame that shows it";
+
+	const FElements Whole = { MakeImage(0, 0, Side, Side, Pattern), MakeImage(80, 0, 20, 20, Pattern), MakeImage(110, 0, 4, 4, Pattern) };
+	EXPECT_TRUE(ComparePictures(ByGl, Draw(*Gl, FIntPoint(192, 128), Whole), 0).IsSame());
+	ExpectAgreement(Elements, TEXT("TakenByParts"));
+}
+
+TEST_F(RendererAgreement, PictureWhosePartsCameInDisorder)
+{
+	TArray<FColor> Pixels;
+	Pixels.Init(Blue, 16);
+	const TSharedRef<FTexture> Texture = FTexture::MakeUnfilled(FIntPoint(4, 8));
+	const auto Fill = [&](int32 Top)
+	{
+		const FPixelRect Area = FPixelRect::Make(0, Top, 4, Top + 4);
+		Texture->Update(Area, Pixels, EPixelAlpha::Straight);
+		Gl->TakeFilled(Texture, Area);
+	};
+	Fill(0);
+	Pixels.Init(Orange, 16);
+	Fill(0);
+	Fill(4);
+
+	const FElements Elements = { MakeImage(0, 0, 40, 80, Texture), MakeImage(60, 0, 2, 4, Texture) };
+	EXPECT_EQ(Draw(*Gl, FIntPoint(192, 128), Elements).At(5, 5), Orange);
+	ExpectAgreement(Elements, TEXT("Disorder"));
+}
+
 TEST_F(RendererAgreement, TransparentBackgroundsReadBackAlike)
 {
 	const FElements Elements = { MakeRoundedBox(10, 10, 40, 40, 20.0f, Glass) };

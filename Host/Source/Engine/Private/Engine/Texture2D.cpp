@@ -1,8 +1,10 @@
 #include "Engine/Texture2D.h"
 
+#include "Framework/Application/SlateApplication.h"
 #include "Host/Texture.h"
 #include "ImageCore.h"
 #include "RHITypes.h"
+#include "Rendering/SlateRenderer.h"
 #include "UObject/Package.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogTexture, Log, All);
@@ -77,7 +79,12 @@ void UTexture2D::UpdateTextureRegions(int32 MipIndex, uint32 NumRegions, const F
 		}
 		const int32 Left = static_cast<int32>(Region.DestX);
 		const int32 Top = static_cast<int32>(Region.DestY);
-		Updatable->Update(Host::FPixelRect::Make(Left, Top, Left + Width, Top + Height), TConstArrayView<FColor>(Pixels, Width * Height), Host::EPixelAlpha::Straight);
+		const Host::FPixelRect Area = Host::FPixelRect::Make(Left, Top, Left + Width, Top + Height);
+		Updatable->Update(Area, TConstArrayView<FColor>(Pixels, Width * Height), Host::EPixelAlpha::Straight);
+		if (FSlateRenderer* Renderer = FSlateApplication::IsInitialized() ? FSlateApplication::Get().GetRenderer() : nullptr)
+		{
+			Renderer->TakeFilled(Updatable.ToSharedRef(), Area);
+		}
 	}
 	DataCleanupFunc(SrcData, Regions);
 }

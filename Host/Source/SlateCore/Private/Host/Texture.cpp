@@ -254,6 +254,13 @@ namespace Host
 		return Mips[Level - 1].Pixels.GetData();
 	}
 
+	const uint32* FTexture::GetReadyRows(int32 Level, int32& OutNumRows) const
+	{
+		const bool bMade = Level > 0 && Level <= Mips.Num();
+		OutNumRows = Level == 0 && Pixels.Num() > 0 ? NumFilledRows : bMade ? Mips[Level - 1].NumRows : 0;
+		return OutNumRows == 0 ? nullptr : Level == 0 ? Pixels.GetData() : Mips[Level - 1].Pixels.GetData();
+	}
+
 	int64 FTexture::GetNumWrittenPixels()
 	{
 		return NumWrittenPixels;

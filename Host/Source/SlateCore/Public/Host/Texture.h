@@ -77,6 +77,13 @@ namespace Host
 		/** Number of levels down to one pixel, level 0 included. */
 		int32 GetNumMips() const;
 
+		/**
+		 * What is there of a level by now, and nothing is made for it: rows from the top that are filled in or made. Those of
+		 * level 0 are followed while a picture is filled by whole rows from the top.
+		 * @return null when OutNumRows is 0
+		 */
+		const uint32* GetReadyRows(int32 Level, int32& OutNumRows) const;
+
 		/** Replaces a part of an updatable texture. Pixels holds the rows of Area, which must lie within the texture. */
 		void Update(const FPixelRect& Area, TConstArrayView<FColor> Pixels, EPixelAlpha Alpha);
 

@@ -91,6 +91,12 @@ public:
 	 */
 	virtual bool BeginNativeDrawing() { return false; }
 
+	/**
+	 * Tells of a part that was filled in of a picture that is not shown yet (FTexture::MakeUnfilled). A renderer with a memory
+	 * of its own takes it there now, so that the frame which shows the picture first need not take all of it.
+	 */
+	virtual void TakeFilled(const TSharedRef<const Host::FTexture>& /*Texture*/, const Host::FPixelRect& /*Area*/) {}
+
 	const Host::FRenderCounters& GetCounters() const { return Counters; }
 
 protected:

@@ -89,6 +89,14 @@ namespace Host
 		return false;
 	}
 
+	void FGlRenderer::TakeFilled(const TSharedRef<const FTexture>& Texture, const FPixelRect& Area)
+	{
+		if (BeginNativeDrawing())
+		{
+			Pipeline.GetTextures().UploadFilled(Texture, Area, Counters.UploadedBytes);
+		}
+	}
+
 	bool FGlRenderer::IsSoftware() const
 	{
 		return DeviceName.Contains(TEXT("llvmpipe")) || DeviceName.Contains(TEXT("softpipe")) || DeviceName.Contains(TEXT("SwiftShader"));

@@ -26,6 +26,7 @@ namespace Host
 		virtual const TCHAR* GetName() const override;
 		virtual TUniquePtr<FWindowSurface> CreateSurface(FIntPoint Size, void* NativeWindow) override;
 		virtual bool BeginNativeDrawing() override;
+		virtual void TakeFilled(const TSharedRef<const FTexture>& Texture, const FPixelRect& Area) override;
 
 		/** What the driver calls the graphics processor. */
 		const FString& GetDeviceName() const { return DeviceName; }

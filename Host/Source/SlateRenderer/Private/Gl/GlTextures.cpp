@@ -21,13 +21,8 @@ namespace Host
 		}
 	}
 
-	GLuint FGlTextures::Find(const TSharedPtr<const FTexture>& Texture, int32 Level, int64& OutUploadedBytes)
+	FGlTextures::FEntry& FGlTextures::FindEntry(const TSharedRef<const FTexture>& Texture)
 	{
-		if (Texture->GetNativeHandle() != 0)
-		{
-			glBindTexture(GL_TEXTURE_2D, Texture->GetNativeHandle());
-			return Texture->GetNativeHandle();
-		}
 		FEntry& Entry = Entries.FindOrAdd(Texture->GetId());
 		if (!Entry.Object.IsValid())
 		{
@@ -35,6 +30,17 @@ namespace Host
 			Entry.Object = FGlObject(EGlObjectKind::Texture, Texture->GetDebugName().IsEmpty() ? "Picture" : TCHAR_TO_UTF8(*Texture->GetDebugName()));
 		}
 		glBindTexture(GL_TEXTURE_2D, Entry.Object.Get());
+		return Entry;
+	}
+
+	GLuint FGlTextures::Find(const TSharedPtr<const FTexture>& Texture, int32 Level, int64& OutUploadedBytes)
+	{
+		if (Texture->GetNativeHandle() != 0)
+		{
+			glBindTexture(GL_TEXTURE_2D, Texture->GetNativeHandle());
+			return Texture->GetNativeHandle();
+		}
+		FEntry& Entry = FindEntry(Texture.ToSharedRef());
 		const bool bNeedsLevels = Level > 0 && !Entry.bHasLevels;
 		if (Entry.Generation != Texture->GetGeneration() || bNeedsLevels)
 		{
@@ -56,6 +62,55 @@ namespace Host
 		glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, NumLevels - 1);
 		Entry.Generation = Texture.GetGeneration();
 		Entry.bHasLevels = bAllLevels;
+		Entry.FilledRows.Empty();
+	}
+
+	void FGlTextures::UploadFilled(const TSharedRef<const FTexture>& Texture, const FPixelRect& Area, int64& OutUploadedBytes)
+	{
+		const FIntPoint Size = Texture->GetSize();
+		const int32 NumLevels = Texture->GetNumMips();
+		FEntry& Entry = FindEntry(Texture);
+		const bool bBegins = Entry.FilledGeneration == FEntry::UnfilledGeneration;
+		const bool bFollows = bBegins ? Area.Top == 0 : !Entry.FilledRows.IsEmpty() && Area.Top == Entry.FilledRows[0];
+		if (!bFollows || Area.Width() != Size.X || Texture->GetGeneration() != Entry.FilledGeneration + 1)
+		{
+			Entry.FilledRows.Empty();
+			return;
+		}
+		if (bBegins)
+		{
+			Entry.FilledRows.SetNumZeroed(NumLevels);
+			glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, NumLevels - 1);
+		}
+		Entry.FilledGeneration = Texture->GetGeneration();
+		glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
+		bool bComplete = true;
+		for (int32 Level = 0; Level < NumLevels; ++Level)
+		{
+			const int32 Width = FMath::Max(Size.X >> Level, 1);
+			const int32 Height = FMath::Max(Size.Y >> Level, 1);
+			if (bBegins)
+			{
+				glTexImage2D(GL_TEXTURE_2D, Level, GL_RGBA8, Width, Height, 0, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV, nullptr);
+			}
+			int32 NumRows = 0;
+			const uint32* Pixels = Texture->GetReadyRows(Level, NumRows);
+			const int32 First = Entry.FilledRows[Level];
+			if (NumRows > First)
+			{
+				glTexSubImage2D(GL_TEXTURE_2D, Level, 0, First, Width, NumRows - First, GL_BGRA, GL_UNSIGNED_INT_8_8_8_8_REV,
+					Pixels + static_cast<int64>(First) * Width);
+				OutUploadedBytes += static_cast<int64>(Width) * (NumRows - First) * 4;
+				Entry.FilledRows[Level] = NumRows;
+			}
+			bComplete = bComplete && NumRows == Height;
+		}
+		if (bComplete)
+		{
+			Entry.Generation = Texture->GetGeneration();
+			Entry.bHasLevels = true;
+			Entry.FilledRows.Empty();
+		}
 	}
 
 	GLuint FGlTextures::UpdateAtlas(const FGlyphAtlas& Atlas, int64& OutUploadedBytes)
