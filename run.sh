@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds the viewer (Release) and starts it; arguments go to the viewer (--help lists them).
-# Without a display it writes the gallery's pages as pictures instead.
+# Without a display it writes the screens as pictures instead.
 set -euo pipefail
 Folder=$PWD
 cd "$(dirname "$0")"

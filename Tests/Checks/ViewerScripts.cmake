@@ -2,7 +2,7 @@
 function(run_script Name Text ExpectedCode ExpectedLine)
     set(File "${WORK_DIR}/${Name}.lua")
     file(WRITE "${File}" "${Text}")
-    execute_process(COMMAND "${VIEWER}" --headless --renderer cpu --script "${File}"
+    execute_process(COMMAND "${VIEWER}" --headless --renderer cpu --screen Gallery --script "${File}"
         RESULT_VARIABLE Code OUTPUT_VARIABLE Output ERROR_VARIABLE Output TIMEOUT 60)
     string(FIND "${Output}" "${ExpectedLine}" Place)
     if(NOT Code STREQUAL ExpectedCode OR Place EQUAL -1)
