@@ -15,6 +15,7 @@
 #include "UnitVolumes/UnitVolumeActor.h"
 #include "UnitVolumes/UnitVolumesManager.h"
 #include "Widgets/Input/SButton.h"
+#include "Widgets/Layout/SBox.h"
 
 #include <limits>
 
@@ -377,6 +378,29 @@ TEST_F(FProjectSceneTest, ADoubleClickOnTheQuayShowsAllUnits)
 	Driver.DoubleClickAt(Quay);
 	Loop.RunUntilIdle();
 	EXPECT_TRUE(Scene->GetViewport().GetCamera().GetPose().Target.Equals(Units.GetCenter(), 1.0));
+}
+
+TEST_F(FProjectSceneTest, UnitsAreShownBesideWhatCoversTheSides)
+{
+	GEngine->GameViewport->AddViewportWidgetContent(SNew(SBox)
+		.HAlign(HAlign_Left)
+		.Visibility(EVisibility::SelfHitTestInvisible)
+		[
+			SNew(SButton)
+			[
+				SNew(SBox).WidthOverride(350.0f)
+			]
+		]);
+	Loop.RunUntilIdle();
+	Scene->FrameBesideScreens();
+	EXPECT_FALSE(Scene->GetViewport().GetCamera().IsMoving());
+	Loop.RunUntilIdle();
+
+	for (const AUnitVolumeActor* Unit : Manager().GetUnitVolumes())
+	{
+		EXPECT_GT(Locate(Unit).X, 350.0) << ToStd(Unit->GetUnitData().Name);
+		EXPECT_LT(Locate(Unit).X, 800.0) << ToStd(Unit->GetUnitData().Name);
+	}
 }
 
 TEST_F(FProjectSceneTest, AProjectThatCannotBeReadIsOneLine)

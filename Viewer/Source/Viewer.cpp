@@ -224,6 +224,9 @@ UUserWidget* FViewer::ShowScreen(const FString& Name)
 	if (Screen && Project)
 	{
 		Project->AnnounceUnits();
+		// What a screen covers is known when it was painted.
+		Loop.Step(0.0);
+		Project->FrameBesideScreens();
 	}
 	return Screen;
 }

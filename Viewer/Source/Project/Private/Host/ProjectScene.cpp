@@ -4,10 +4,12 @@
 #include "Engine/GameInstance.h"
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Host/ProjectSurroundings.h"
 #include "Host/UnitSceneBinding.h"
 #include "Project/ProjectReader.h"
 #include "UnitVolumes/UnitVolumesManager.h"
+#include "Widgets/SWindow.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogProjectScene, Log, All);
 
@@ -50,6 +52,41 @@ namespace Host
 	void FProjectScene::AnnounceUnits()
 	{
 		Manager->AnnounceUnitData();
+	}
+
+	void FProjectScene::FrameBesideScreens()
+	{
+		const FGeometry& Geometry = Viewport->GetCachedGeometry();
+		const FVector2D Size(Geometry.GetLocalSize());
+		const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Viewport.ToSharedRef());
+		if (!Window || Size.X <= 0.0 || Size.Y <= 0.0)
+		{
+			return;
+		}
+		// Free is where the pointer would reach the scene: between the first and the last such place at half the height.
+		const auto IsFree = [&](double X)
+		{
+			const FVector2D Place(Geometry.LocalToAbsolute(FVector2D(X, 0.5 * Size.Y)));
+			const FWidgetPath Path = FSlateApplication::Get().LocateWindowUnderMouse(Place, { Window.ToSharedRef() });
+			return Path.IsValid() && &Path.GetLastWidget().Get() == Viewport.Get();
+		};
+		constexpr double Step = 4.0;
+		double Left = 0.0;
+		while (Left < Size.X && !IsFree(Left + 0.5 * Step))
+		{
+			Left += Step;
+		}
+		double Right = 0.0;
+		while (Left + Right < Size.X && !IsFree(Size.X - Right - 0.5 * Step))
+		{
+			Right += Step;
+		}
+		if (Left + Right < Size.X)
+		{
+			Viewport->SetCoveredSides(Left, Right);
+			Viewport->FrameAll();
+			Viewport->MoveCamera([](FSceneCamera& Camera) { Camera.Finish(); });
+		}
 	}
 
 	void FProjectScene::RefreshColours()

@@ -35,6 +35,9 @@ namespace Host
 		/** Tells screens that came after the units of them. */
 		void AnnounceUnits();
 
+		/** Shows all units in what the screens over the scene leave free at its sides, as they were painted last. */
+		void FrameBesideScreens();
+
 		/** To be called when the style was changed. */
 		void RefreshColours();
 

@@ -76,16 +76,32 @@ namespace Host
 		return EActiveTimerReturnType::Stop;
 	}
 
+	void SSceneViewport::SetCoveredSides(double Left, double Right)
+	{
+		CoveredLeft = Left;
+		CoveredRight = Right;
+	}
+
 	void SSceneViewport::FrameAll()
 	{
-		MoveCamera([this](FSceneCamera& Moved) { Moved.Frame(GetSubject(), GetAspectRatio()); });
+		MoveCamera([this](FSceneCamera& Moved)
+		{
+			const double Height = FMath::Max(1.0, GetViewSize().Y);
+			// A window may have become narrower than what covers it.
+			constexpr double LeastAspectRatio = 0.1;
+			Moved.Frame(GetSubject(), FMath::Max(LeastAspectRatio, GetAspectRatio() - (CoveredLeft + CoveredRight) / Height));
+			if (CoveredLeft != CoveredRight)
+			{
+				Moved.Pan(FVector2D(0.5 * (CoveredLeft - CoveredRight), 0.0), Height);
+			}
+		});
 	}
 
 	ESceneSpot SSceneViewport::Locate(const FVector& Place, FVector2D& OutPosition)
 	{
 		const FSceneView View = Camera.GetView();
 		const FVector2D Size = GetViewSize();
-		if (!View.Project(Place, Size, OutPosition) || OutPosition.X < 0.0 || OutPosition.Y < 0.0 || OutPosition.X > Size.X || OutPosition.Y > Size.Y)
+		if (!View.Project(Place, Size, OutPosition) || OutPosition.X < CoveredLeft || OutPosition.Y < 0.0 || OutPosition.X > Size.X - CoveredRight || OutPosition.Y > Size.Y)
 		{
 			return ESceneSpot::OutOfView;
 		}

@@ -19,7 +19,7 @@ namespace Host
 		InSight,
 		/** A solid volume stands before it. */
 		Hidden,
-		/** Beside the picture, or behind the eye. */
+		/** Beside the picture, covered at its sides, or behind the eye. */
 		OutOfView,
 	};
 
@@ -59,6 +59,9 @@ namespace Host
 		/** Lets the function send the camera elsewhere, and eases toward there. */
 		void MoveCamera(TFunctionRef<void(FSceneCamera&)> Move);
 		const FSceneCamera& GetCamera() const { return Camera; }
+
+		/** How much of the picture is covered at its sides, in local units: FrameAll shows the subject beside that. */
+		void SetCoveredSides(double Left, double Right);
 
 		/** Sends the camera to where it sees the whole subject. */
 		void FrameAll();
@@ -111,6 +114,8 @@ namespace Host
 
 		TSharedPtr<FSceneContent> Content;
 		FBox Subject = FBox(ForceInit);
+		double CoveredLeft = 0.0;
+		double CoveredRight = 0.0;
 		FSceneCamera Camera;
 		TUniquePtr<FScenePicture> Picture;
 		FSceneQualityVariables Quality;
