@@ -204,9 +204,11 @@ namespace Host
 			return Transfer->Code > 0 && bHeadersEnded ? EHttpFailureReason::None : EHttpFailureReason::ConnectionError;
 		case CURLE_OPERATION_TIMEDOUT:
 		{
-			// Going silent and taking too long have one number; the time tells which it was. The library's own is from its last look.
+			// Going silent and taking too long have one number; the time tells which it was. The library rounds to milliseconds, so it
+			// may end a transfer a little early.
+			constexpr double Early = 0.005;
 			const std::chrono::duration<double> Taken = std::chrono::steady_clock::now() - Start;
-			const bool bTooLong = Transfer->TotalTimeout > 0.0f && Taken.count() >= static_cast<double>(Transfer->TotalTimeout);
+			const bool bTooLong = Transfer->TotalTimeout > 0.0f && Taken.count() + Early >= static_cast<double>(Transfer->TotalTimeout);
 			return bTooLong ? EHttpFailureReason::TimedOut : EHttpFailureReason::ConnectionError;
 		}
 		case CURLE_COULDNT_RESOLVE_HOST:
