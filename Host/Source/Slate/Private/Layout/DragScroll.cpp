@@ -3,6 +3,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "InputCoreTypes.h"
 #include "Layout/Oriented.h"
+#include "Widgets/SWidget.h"
 
 namespace Host
 {
@@ -18,14 +19,26 @@ namespace Host
 		bDragging = false;
 	}
 
-	bool FDragScroll::Move(const FPointerEvent& MouseEvent, EOrientation Orientation, float Scale, float& OutUnits)
+	TOptional<FReply> FDragScroll::Move(SWidget& Captor, const FGeometry& Geometry, const FPointerEvent& MouseEvent, EOrientation Orientation, TFunctionRef<float(float Units)> Scroll)
 	{
+		if (!bPending || !MouseEvent.IsMouseButtonDown(EKeys::RightMouseButton))
+		{
+			Cancel();
+			return TOptional<FReply>();
+		}
+		FReply Reply = FReply::Handled();
 		const float Delta = Along(FVector2f(MouseEvent.GetCursorDelta()), Orientation);
 		Distance += FMath::Abs(Delta);
-		const bool bBegins = !bDragging && Distance >= FSlateApplication::Get().GetDragTriggerDistance();
-		bDragging |= bBegins;
-		OutUnits = bDragging ? -Delta / Scale : 0.0f;
-		return bBegins;
+		if (!bDragging && Distance >= FSlateApplication::Get().GetDragTriggerDistance())
+		{
+			bDragging = true;
+			Reply.CaptureMouse(Captor.AsShared());
+		}
+		if (bDragging)
+		{
+			NoteScrolled(Scroll(-Delta / Geometry.Scale));
+		}
+		return Reply;
 	}
 
 	void FDragScroll::NoteScrolled(float Units)
@@ -33,16 +46,22 @@ namespace Host
 		Inertia.AddScrollSample(Units, FSlateApplication::Get().GetCurrentTime());
 	}
 
-	bool FDragScroll::Release()
+	TOptional<FReply> FDragScroll::Release(const FPointerEvent& MouseEvent, bool& bOutGoesOn)
 	{
-		const bool bWasDragging = bDragging;
-		Cancel();
-		if (bWasDragging)
+		bOutGoesOn = false;
+		if (MouseEvent.GetEffectingButton() != EKeys::RightMouseButton || !bPending)
 		{
-			// A pause before letting go means that the content shall stay.
-			NoteScrolled(0.0f);
+			return TOptional<FReply>();
 		}
-		return bWasDragging;
+		bOutGoesOn = bDragging;
+		Cancel();
+		if (!bOutGoesOn)
+		{
+			return FReply::Handled();
+		}
+		// A pause before letting go means that the content shall stay.
+		NoteScrolled(0.0f);
+		return FReply::Handled().ReleaseMouseCapture();
 	}
 
 	float FDragScroll::TakeMotion(float DeltaTime)

@@ -3,7 +3,13 @@
 #include "CoreMinimal.h"
 #include "Framework/Layout/InertialScrollManager.h"
 #include "Input/Events.h"
+#include "Input/Reply.h"
+#include "Misc/Optional.h"
+#include "Templates/Function.h"
 #include "Types/SlateEnums.h"
+
+class SWidget;
+struct FGeometry;
 
 namespace Host
 {
@@ -26,15 +32,17 @@ namespace Host
 		void Cancel();
 
 		/**
-		 * The mouse moved.
-		 * @param OutUnits	slate units that the content moves along the orientation; 0 unless it is dragged
-		 * @return whether this is the move that makes a drag of it, for which the mouse is to be captured
+		 * The mouse moved over the widget, or is captured by it.
+		 * @param Scroll	scrolls by slate units along the orientation, and says how far that really was
+		 * @return what the widget answers; unset where the move is none of a drag
 		 */
-		bool Move(const FPointerEvent& MouseEvent, EOrientation Orientation, float Scale, float& OutUnits);
-		/** Notes how far the content was really scrolled by a move. */
-		void NoteScrolled(float Units);
-		/** The button went up. True when it was a drag, whose speed the content keeps. */
-		bool Release();
+		TOptional<FReply> Move(SWidget& Captor, const FGeometry& Geometry, const FPointerEvent& MouseEvent, EOrientation Orientation, TFunctionRef<float(float Units)> Scroll);
+		/**
+		 * A button went up.
+		 * @param bOutGoesOn	whether it ends a drag, whose speed the content keeps
+		 * @return what the widget answers; unset where the button is none of a drag
+		 */
+		TOptional<FReply> Release(const FPointerEvent& MouseEvent, bool& bOutGoesOn);
 
 		/** The button is down, and may become a drag. */
 		bool IsPending() const { return bPending; }
@@ -45,6 +53,9 @@ namespace Host
 		float TakeMotion(float DeltaTime);
 
 	private:
+		/** Notes how far the content was really scrolled by a move. */
+		void NoteScrolled(float Units);
+
 		FInertialScrollManager Inertia;
 		/** Pixels that the cursor went since the button went down. */
 		float Distance = 0.0f;

@@ -53,38 +53,24 @@ FReply SScrollBox::OnMouseButtonDown(const FGeometry& MyGeometry, const FPointer
 
 FReply SScrollBox::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	if (!Drag->IsPending() || !MouseEvent.IsMouseButtonDown(EKeys::RightMouseButton))
-	{
-		Drag->Cancel();
-		return SCompoundWidget::OnMouseMove(MyGeometry, MouseEvent);
-	}
-	FReply Reply = FReply::Handled();
-	float Units = 0.0f;
-	if (Drag->Move(MouseEvent, Orientation, MyGeometry.Scale, Units))
-	{
-		Reply.CaptureMouse(AsShared());
-	}
-	if (Drag->IsDragging())
+	const TOptional<FReply> Reply = Drag->Move(*this, MyGeometry, MouseEvent, Orientation, [this](float Units)
 	{
 		const float Before = Scroll->GetOffset();
 		ScrollByUser(Before + Units);
-		Drag->NoteScrolled(Scroll->GetOffset() - Before);
-	}
-	return Reply;
+		return Scroll->GetOffset() - Before;
+	});
+	return Reply.IsSet() ? Reply.GetValue() : SCompoundWidget::OnMouseMove(MyGeometry, MouseEvent);
 }
 
 FReply SScrollBox::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	if (MouseEvent.GetEffectingButton() != EKeys::RightMouseButton || !Drag->IsPending())
+	bool bGoesOn = false;
+	const TOptional<FReply> Reply = Drag->Release(MouseEvent, bGoesOn);
+	if (bGoesOn)
 	{
-		return SCompoundWidget::OnMouseButtonUp(MyGeometry, MouseEvent);
+		EnsureMotion();
 	}
-	if (!Drag->Release())
-	{
-		return FReply::Handled();
-	}
-	EnsureMotion();
-	return FReply::Handled().ReleaseMouseCapture();
+	return Reply.IsSet() ? Reply.GetValue() : SCompoundWidget::OnMouseButtonUp(MyGeometry, MouseEvent);
 }
 
 void SScrollBox::OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent)

@@ -54,38 +54,24 @@ FReply STableViewBase::OnMouseButtonDown(const FGeometry& MyGeometry, const FPoi
 
 FReply STableViewBase::OnMouseMove(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	if (!Drag->IsPending() || !MouseEvent.IsMouseButtonDown(EKeys::RightMouseButton))
+	const TOptional<FReply> Reply = Drag->Move(*this, MyGeometry, MouseEvent, Orientation, [this](float Units)
 	{
-		Drag->Cancel();
-		return SCompoundWidget::OnMouseMove(MyGeometry, MouseEvent);
-	}
-	FReply Reply = FReply::Handled();
-	float Units = 0.0f;
-	if (Drag->Move(MouseEvent, Orientation, MyGeometry.Scale, Units))
-	{
-		Reply.CaptureMouse(AsShared());
-	}
-	if (Drag->IsDragging())
-	{
-		const bool bScrolls = CanScroll(Units);
-		Drag->NoteScrolled(bScrolls ? Units : 0.0f);
-		ScrollBy(bScrolls ? Units : 0.0f);
-	}
-	return Reply;
+		const float Scrolled = CanScroll(Units) ? Units : 0.0f;
+		ScrollBy(Scrolled);
+		return Scrolled;
+	});
+	return Reply.IsSet() ? Reply.GetValue() : SCompoundWidget::OnMouseMove(MyGeometry, MouseEvent);
 }
 
 FReply STableViewBase::OnMouseButtonUp(const FGeometry& MyGeometry, const FPointerEvent& MouseEvent)
 {
-	if (MouseEvent.GetEffectingButton() != EKeys::RightMouseButton || !Drag->IsPending())
+	bool bGoesOn = false;
+	const TOptional<FReply> Reply = Drag->Release(MouseEvent, bGoesOn);
+	if (bGoesOn)
 	{
-		return SCompoundWidget::OnMouseButtonUp(MyGeometry, MouseEvent);
+		EnsureFrame();
 	}
-	if (!Drag->Release())
-	{
-		return FReply::Handled();
-	}
-	EnsureFrame();
-	return FReply::Handled().ReleaseMouseCapture();
+	return Reply.IsSet() ? Reply.GetValue() : SCompoundWidget::OnMouseButtonUp(MyGeometry, MouseEvent);
 }
 
 void STableViewBase::OnMouseCaptureLost(const FCaptureLostEvent& CaptureLostEvent)
