@@ -1,7 +1,7 @@
 -- The units of the scene: search, sort, and a count.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
-local Look = Import("/HalvexPro/Settings/SettingsLook")
+local Kit = Import("/HalvexPro/Shared/Kit")
+local Controls = Import("/HalvexPro/Shared/Controls")
 
 local function ShowOrder(self)
 	self.OrderIcon:SetIconByHandler({
@@ -41,7 +41,7 @@ function OnInitialized(self)
 end
 
 function PreConstruct(self)
-	Look.StyleComboBox(self.SortBox)
-	Look.StyleBarButton(self.Order)
-	Look.StyleTextBox(self.SearchBox)
+	Controls.StyleComboBox(self.SortBox)
+	Controls.StyleBarButton(self.Order)
+	Controls.StyleTextBox(self.SearchBox)
 end

@@ -1,6 +1,6 @@
 -- The plan of an apartment in an area that zooms and moves it. Lengths are metres from the top left of the outer walls.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local UnitsPerMetre = 46
 local Outside = { 0, 0, 13.4, 9 }

@@ -1,6 +1,6 @@
 -- Every colour of the style with its contrast.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local function AddSwatch(self, Panel, ID, Fill, Front, Simple)
 	local Column = CreateWidget(self, "VerticalBox")

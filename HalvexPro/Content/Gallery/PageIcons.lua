@@ -1,6 +1,6 @@
 -- The icons of the icon font, by typeface, with a search.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local Typefaces = { "Solid", "Regular", "Brands" }
 local TilesOnPage = 70

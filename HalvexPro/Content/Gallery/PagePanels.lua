@@ -1,7 +1,7 @@
 -- Panels that are dragged by a grip: one with the grip over its head, one with the grip above it and a highlight.
 
 local EventLog = Import("/HalvexPro/Gallery/EventLog")
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local Names = { "Apartment", "Layers" }
 

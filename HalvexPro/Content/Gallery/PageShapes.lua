@@ -1,6 +1,6 @@
 -- Borders, corners and opacities of the style.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 local Models = Class("/Script/HalvexProUI.HalvexStyleModels")
 
 local function AddShape(self, Panel, Name, Style, Width, Height)

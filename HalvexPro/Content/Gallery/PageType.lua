@@ -1,6 +1,6 @@
 -- Every font schema, set in the project's family.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local Scripts = {
 	{ "Latin", "Bright rooms by the quay" },

@@ -1,6 +1,6 @@
 -- Text to edit in a frame, with a caption above it.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local function Fill(Color)
 	return { DrawAs = "Image", TintColor = Kit.Slate(Color) }

@@ -1,6 +1,6 @@
 -- The frame around the gallery's pages: chooses the page and the style.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local Light = "/HalvexPro/Widgets/UIStyle_Hx_Light.UIStyle_Hx_Light"
 local Dark = "/HalvexPro/Widgets/UIStyle_Hx_Dark.UIStyle_Hx_Dark"

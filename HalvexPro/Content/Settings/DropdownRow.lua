@@ -1,6 +1,6 @@
 -- A setting with several values.
 
-local Look = Import("/HalvexPro/Settings/SettingsLook")
+local Controls = Import("/HalvexPro/Shared/Controls")
 local Row = Import("/HalvexPro/Settings/Row")
 
 -- Levels of quality that differ have no place among the options of the overall level.
@@ -35,5 +35,5 @@ end
 
 function PreConstruct(self)
 	Row.Restyle(self)
-	Look.StyleComboBox(self.SettingWidget)
+	Controls.StyleComboBox(self.SettingWidget)
 end

@@ -1,6 +1,6 @@
 -- How many pixels a scene is drawn with, in percent of the window's along an axis.
 
-local Look = Import("/HalvexPro/Settings/SettingsLook")
+local Controls = Import("/HalvexPro/Shared/Controls")
 local Row = Import("/HalvexPro/Settings/Row")
 
 local function ShowValue(self)
@@ -52,6 +52,6 @@ end
 
 function PreConstruct(self)
 	Row.Restyle(self)
-	Look.StyleSlider(self.Slider)
+	Controls.StyleSlider(self.Slider)
 	ShowVariable(self)
 end

@@ -1,7 +1,7 @@
 -- A settings screen: its rows, the bar that waits for a confirmation, and the count after which an unconfirmed video mode is
 -- put back.
 
-local Look = Import("/HalvexPro/Settings/SettingsLook")
+local Controls = Import("/HalvexPro/Shared/Controls")
 
 local Levels = { "Shadow", "AntiAliasing", "Texture", "Shading", "Reflection", "GlobalIllumination", "PostProcess", "VisualEffect", "Foliage", "ViewDistance" }
 local OtherRows = { "Resolution", "FullScreen", "VSync", "ScreenPercentage", "Overall", "Audio" }
@@ -122,10 +122,10 @@ end
 function PreConstruct(self)
 	self.ExplanationText:SetText(self.Explanation)
 	for _, Button in ipairs({ self.Discard, self.Btn_ApplyConfirmation, self.Keep, self.RevertNow }) do
-		Look.StyleBarButton(Button)
+		Controls.StyleBarButton(Button)
 	end
-	Look.StyleScrollBox(self.Scroll)
-	Look.StyleCountBar(self.CountBar)
+	Controls.StyleScrollBox(self.Scroll)
+	Controls.StyleCountBar(self.CountBar)
 	ShowBars(self)
 end
 

@@ -1,6 +1,6 @@
 -- A setting that is on or off.
 
-local Look = Import("/HalvexPro/Settings/SettingsLook")
+local Controls = Import("/HalvexPro/Shared/Controls")
 local Row = Import("/HalvexPro/Settings/Row")
 
 local function ShowSwitch(self)
@@ -34,6 +34,6 @@ end
 
 function PreConstruct(self)
 	Row.Restyle(self)
-	Look.StyleSwitch(self.SettingWidget)
+	Controls.StyleSwitch(self.SettingWidget)
 	ShowSwitch(self)
 end

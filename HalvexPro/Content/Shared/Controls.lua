@@ -1,6 +1,6 @@
--- The controls of a settings screen in the project's style.
+-- The engine's controls in the project's style.
 
-local Kit = Import("/HalvexPro/Gallery/Kit")
+local Kit = Import("/HalvexPro/Shared/Kit")
 
 local Models = Class("/Script/HalvexProUI.HalvexStyleModels")
 

@@ -1,4 +1,4 @@
--- What the gallery's screens share: making widgets in the project's style, and saying colours.
+-- What screens share: making widgets in the project's style, and saying colours.
 
 local Models = Class("/Script/HalvexProUI.HalvexStyleModels")
 local Styles = Subsystem("/Script/HalvexProUI.HalvexUISubsystem")
