@@ -1,6 +1,7 @@
 #include "Misc/Paths.h"
 
 #include "CoreMinimal.h"
+#include "Environment.h"
 #include "HAL/PlatformProcess.h"
 #include "Host/PathRoots.h"
 #include "Misc/App.h"
@@ -8,33 +9,8 @@
 #include "TestText.h"
 #include "gtest/gtest.h"
 
-#include <cstdlib>
-
 namespace
 {
-	/** Sets an environment variable until the end of the test. */
-	class FEnvironment
-	{
-	public:
-		FEnvironment(const char* InName, const char* Value)
-			: Name(InName)
-			, bWasSet(std::getenv(InName) != nullptr)
-			, Old(bWasSet ? std::getenv(InName) : "")
-		{
-			setenv(Name, Value, 1);
-		}
-
-		~FEnvironment()
-		{
-			bWasSet ? setenv(Name, Old.c_str(), 1) : unsetenv(Name);
-		}
-
-	private:
-		const char* Name;
-		bool bWasSet;
-		std::string Old;
-	};
-
 	std::string Collapse(const TCHAR* Path, bool bExpectInside = true)
 	{
 		FString Text = Path;

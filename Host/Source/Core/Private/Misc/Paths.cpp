@@ -84,6 +84,11 @@ void Host::FPathRoots::SetSavedDir(const FString& Folder)
 	GetRoots().SavedDir = ToRoot(Folder);
 }
 
+bool Host::FPathRoots::IsSavedDirSet()
+{
+	return !GetRoots().SavedDir.IsEmpty();
+}
+
 FString FPaths::ProjectDir()
 {
 	const FString& Set = GetRoots().ProjectDir;

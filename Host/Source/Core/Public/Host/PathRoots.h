@@ -16,5 +16,7 @@ namespace Host
 		 * holds both, the settings in "Config" inside it.
 		 */
 		CORE_API static void SetSavedDir(const FString& Folder);
+		/** Whether SetSavedDir has set a folder. */
+		CORE_API static bool IsSavedDirSet();
 	};
 }
