@@ -1,6 +1,7 @@
 #include "Project/UnitTableReader.h"
 
 #include "Misc/FileHelper.h"
+#include "Project/TableFormulaGuard.h"
 #include "Project/TableNumber.h"
 #include "Project/TableRows.h"
 #include "Project/UnitRecordFields.h"
@@ -184,6 +185,7 @@ namespace
 			}
 			else if (!FUnitRecordFields::IsNumber(EUnitRecordField(Field)))
 			{
+				Text = FTableFormulaGuard::Remove(Text);
 				Expected = Fields.SetText(Unit, EUnitRecordField(Field), Text);
 			}
 			else
