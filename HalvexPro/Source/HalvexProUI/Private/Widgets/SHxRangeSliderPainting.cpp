@@ -16,6 +16,14 @@ namespace
 		return Color.CopyWithNewOpacity(Color.A * Share);
 	}
 
+	/** How far, in pixels, a bar reaches into a disc before both of its corners are inside. */
+	int32 FindInset(int32 Diameter, int32 Thickness)
+	{
+		const float Radius = static_cast<float>(Diameter) * 0.5f;
+		const float HalfThickness = FMath::Min(static_cast<float>(Thickness) * 0.5f, Radius);
+		return FMath::CeilToInt32(Radius - FMath::Sqrt(Radius * Radius - HalfThickness * HalfThickness));
+	}
+
 	/** A square or a bar, in pixels of the widget. */
 	struct FPixelBox
 	{
@@ -32,6 +40,9 @@ SHxRangeSlider::SHxRangeSlider()
 {
 	FillBrush.DrawAs = ESlateBrushDrawType::RoundedBox;
 	FillBrush.OutlineSettings.RoundingType = ESlateBrushRoundingType::HalfHeightRadius;
+	RangeBrush = FillBrush;
+	RangeBrush.OutlineSettings.RoundingType = ESlateBrushRoundingType::FixedRadius;
+	RangeBrush.OutlineSettings.CornerRadii = FVector4(0.0, 0.0, 0.0, 0.0);
 	RingBrush = FillBrush;
 	RingBrush.OutlineSettings.Width = RingWidth;
 	RingBrush.OutlineSettings.Color = FSlateColor(Style.FocusColor);
@@ -104,23 +115,31 @@ int32 SHxRangeSlider::OnPaint(const FPaintArgs& Args, const FGeometry& AllottedG
 	const int32 BarTop = Top + (Diameter - Thickness) / 2;
 
 	Draw(LayerId, FillBrush, FPixelBox{ Diameter / 2, BarTop, Way, Thickness }, Style.BarColor);
-	Draw(LayerId + 1, FillBrush, FPixelBox{ Lower.Left + Diameter / 2, BarTop, Upper.Left - Lower.Left, Thickness }, Style.RangeColor);
+	// Up to the handles, not to their middles: disabled ones are seen through.
+	const int32 RangeLeft = Lower.Left + Diameter - FindInset(Diameter, Thickness);
+	const int32 RangeRight = Upper.Left + FindInset(Diameter, Thickness);
+	Draw(LayerId + 1, RangeBrush, FPixelBox{ RangeLeft, BarTop, FMath::Max(RangeRight - RangeLeft, 0), Thickness }, Style.RangeColor);
 	const int32 Distance = FMath::RoundToInt32(HaloDistance * Scale);
-	const auto DrawHandle = [&](EHxRangeHandle Handle, const FPixelBox& Box)
+	const EGrip Lit = Dragged != EGrip::None ? Dragged : bLocked ? EGrip::None : Hovered;
+	const FLinearColor HaloColor = WithOpacity(Style.HandleColor, Dragged != EGrip::None ? DraggedHalo : HoveredHalo);
+	// One over the other would be less transparent than one.
+	const bool bOnePlace = Lower.Left == Upper.Left;
+	const auto DrawHandle = [&](EHxRangeHandle Handle, const FPixelBox& Box, bool bDiscCovered, bool bHaloCovered)
 	{
-		const bool bDragged = IsLit(Handle, Dragged);
-		const bool bHovered = Dragged == EGrip::None && !bLocked && IsLit(Handle, Hovered);
-		if (bActive && (bDragged || bHovered))
+		if (bActive && IsLit(Handle, Lit) && !bHaloCovered)
 		{
-			Draw(LayerId + 2, FillBrush, Box.Grow(Distance), WithOpacity(Style.HandleColor, bDragged ? DraggedHalo : HoveredHalo));
+			Draw(LayerId + 2, FillBrush, Box.Grow(Distance), HaloColor);
 		}
-		Draw(LayerId + 3, FillBrush, Box, Style.HandleColor);
+		if (!bDiscCovered)
+		{
+			Draw(LayerId + 3, FillBrush, Box, Style.HandleColor);
+		}
 		if (bActive && bShowsFocus && FocusedHandle == Handle)
 		{
 			Draw(LayerId + 4, RingBrush, Box.Grow(Distance), FLinearColor::Transparent);
 		}
 	};
-	DrawHandle(EHxRangeHandle::Lower, Lower);
-	DrawHandle(EHxRangeHandle::Upper, Upper);
+	DrawHandle(EHxRangeHandle::Lower, Lower, bOnePlace, bOnePlace && IsLit(EHxRangeHandle::Upper, Lit));
+	DrawHandle(EHxRangeHandle::Upper, Upper, false, false);
 	return SCompoundWidget::OnPaint(Args, AllottedGeometry, MyCullingRect, OutDrawElements, LayerId + 4, InWidgetStyle, bParentEnabled);
 }

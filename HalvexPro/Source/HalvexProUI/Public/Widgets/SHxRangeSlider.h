@@ -127,6 +127,7 @@ private:
 	FHxRangeModel Model;
 	FHxRangeSliderStyle Style;
 	FSlateBrush FillBrush;
+	FSlateBrush RangeBrush;
 	FSlateBrush RingBrush;
 	FOnHxRange OnRangeChanged;
 	FOnHxRange OnRangeCommitted;
