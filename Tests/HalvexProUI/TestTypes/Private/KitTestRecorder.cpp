@@ -80,6 +80,16 @@ void UKitTestRecorder::OnZoomValueChanged(float ZoomValue)
 	Note(FString::Printf(TEXT("zoom(%.6g)"), ZoomValue));
 }
 
+void UKitTestRecorder::OnRangeChanged(float Lower, float Upper)
+{
+	Note(FString::Printf(TEXT("%g-%g"), Lower, Upper));
+}
+
+void UKitTestRecorder::OnRangeCommitted(float Lower, float Upper)
+{
+	Note(FString::Printf(TEXT("commit(%g-%g)"), Lower, Upper));
+}
+
 void UKitTestRecorder::OnStartCaptureMouse()
 {
 	Note(TEXT("start"));

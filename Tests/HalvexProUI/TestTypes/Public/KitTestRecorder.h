@@ -62,6 +62,12 @@ public:
 	void OnZoomValueChanged(float ZoomValue);
 
 	UFUNCTION()
+	void OnRangeChanged(float Lower, float Upper);
+
+	UFUNCTION()
+	void OnRangeCommitted(float Lower, float Upper);
+
+	UFUNCTION()
 	void OnStartCaptureMouse();
 
 	UFUNCTION()
