@@ -241,4 +241,16 @@ namespace
 		EXPECT_EQ(Bounds.Min, FVector::ZeroVector);
 		EXPECT_EQ(Bounds.Max, FVector(100.0, 200.0, 300.0));
 	}
+
+	TEST_F(FUnitVolumesManagerTest, GroupsGoByTheirNamesOrElseByTheirKeys)
+	{
+		FProjectGroup Group;
+		Group.GroupId = TEXT("harbour");
+		Group.Name = TEXT("Harbour House");
+		Manager->SetUnitGroups({ Group });
+		EXPECT_EQ(Manager->GetUnitGroupName(TEXT("harbour")), TEXT("Harbour House"));
+		EXPECT_EQ(Manager->GetUnitGroupName(TEXT("wharf")), TEXT("wharf"));
+		Manager->SetUnitGroups({});
+		EXPECT_EQ(Manager->GetUnitGroupName(TEXT("harbour")), TEXT("harbour"));
+	}
 }

@@ -1,7 +1,10 @@
 #include "SceneTest.h"
 
 #include "CountingUnitFilter.h"
+#include "Filters/UnitChoiceFilter.h"
 #include "Filters/UnitNumberRangeFilter.h"
+#include "Misc/Paths.h"
+#include "Project/UnitTableReader.h"
 
 namespace
 {
@@ -232,5 +235,87 @@ namespace
 		EXPECT_EQ(Passing(), "AB");
 		Filters->RefreshFilterResult();
 		EXPECT_EQ(Passing(), "ABC");
+	}
+
+	TEST_F(FUnitsFilterManagerTest, LimitsOfANumberAreThoseOfTheUnits)
+	{
+		double Minimum = 1.0;
+		double Maximum = 1.0;
+		EXPECT_FALSE(Filters->GetNumberLimits(EUnitNumberField::Price, false, Minimum, Maximum));
+		EXPECT_EQ(Maximum, 0.0);
+		Manager->SpawnUnits({ MakeUnit(TEXT("A"), 3, 0.0), MakeUnit(TEXT("B"), -1, 500.0), MakeUnit(TEXT("C"), 7, 200.0) });
+		EXPECT_TRUE(Filters->GetNumberLimits(EUnitNumberField::Level, false, Minimum, Maximum));
+		EXPECT_EQ(Minimum, -1.0);
+		EXPECT_EQ(Maximum, 7.0);
+		EXPECT_TRUE(Filters->GetNumberLimits(EUnitNumberField::Price, true, Minimum, Maximum));
+		EXPECT_EQ(Minimum, 200.0) << "a price that is not told is no limit";
+		EXPECT_EQ(Maximum, 500.0);
+		EXPECT_FALSE(Filters->GetNumberLimits(EUnitNumberField::Area, true, Minimum, Maximum));
+	}
+
+	/** "value total/passing" of each count. */
+	std::string Describe(const TArray<FUnitChoiceCount>& Counts)
+	{
+		std::string Text;
+		for (const FUnitChoiceCount& Count : Counts)
+		{
+			Text += Host::ToStd(FString::Printf(TEXT("%s %d/%d; "), *Count.Value.ToString(), Count.TotalNum, Count.PassingNum));
+		}
+		return Text;
+	}
+
+	TEST_F(FUnitsFilterManagerTest, ValuesAreCountedAmongUnitsThatPassAllOtherFilters)
+	{
+		TArray<FProjectUnit> Units;
+		for (int32 Index = 0; Index < 6; ++Index)
+		{
+			Units.Add(MakeUnit(FString::Printf(TEXT("%d"), Index), Index));
+			Units.Last().Data.Building = Index % 2 == 0 ? TEXT("wharf") : TEXT("attic");
+			Units.Last().Data.Status = Index < 3 ? EUnitStatus::Sold : EUnitStatus::Available;
+		}
+		Manager->SpawnUnits(Units);
+		EXPECT_EQ(Describe(Filters->CountChoices(EUnitChoiceField::Building)), "wharf 3/3; attic 3/3; ");
+		EXPECT_EQ(Describe(Filters->CountChoices(EUnitChoiceField::Status)), "Available 3/3; Sold 3/3; ") << "in the order of the states";
+		AddCollection({ UUnitChoiceFilter::CreateChoiceFilter(EUnitChoiceField::Building, { TEXT("wharf") }), Levels(1.0, 9.0), nullptr });
+		EXPECT_EQ(Describe(Filters->CountChoices(EUnitChoiceField::Building)), "wharf 3/2; attic 3/3; ") << "its own filter does not count";
+		EXPECT_EQ(Describe(Filters->CountChoices(EUnitChoiceField::Status)), "Available 3/1; Sold 3/1; ");
+		EXPECT_EQ(Passing(), "24") << "counting changes nothing";
+		FUnitData Data = Unit(TEXT("1")).GetUnitData();
+		for (const TCHAR* Name : { TEXT("1"), TEXT("3"), TEXT("5") })
+		{
+			Data = Unit(Name).GetUnitData();
+			Data.Building = TEXT("wharf");
+			Unit(Name).SetUnitVolumeSceneData(Data);
+		}
+		EXPECT_EQ(Describe(Filters->CountChoices(EUnitChoiceField::Building)), "wharf 6/5; ") << "a value that no unit has any more is gone";
+	}
+
+	TEST_F(FUnitsFilterManagerTest, ValuesThatNoUnitHasAreTold)
+	{
+		SpawnUnits(2);
+		FUnitFilterSet Set;
+		FUnitFilterRecord Record;
+		Record.Kind = EUnitFilterKind::Choice;
+		Record.Field = TEXT("Status");
+		Record.Values = { TEXT("Available"), TEXT("Sold") };
+		Set.Filters.Add(Record);
+		Record.Field = TEXT("Building");
+		Record.Values = { TEXT("tower") };
+		Set.Filters.Add(Record);
+		Set.Filters.Add(FUnitFilterRecord());
+		EXPECT_EQ(Host::ToStd(FString::Join(Filters->FindMissingValues(Set), TEXT("; "))), "status: Sold; building: tower");
+	}
+
+	TEST_F(FUnitsFilterManagerTest, PassingUnitsAreSavedAsATable)
+	{
+		SpawnUnits(4);
+		AddCollection({ Levels(1.0, 2.0) });
+		const FString Path = FPaths::ProjectSavedDir() / TEXT("Tables/passing");
+		ASSERT_TRUE(Filters->SavePassingUnits(Path));
+		TArray<FProjectUnit> Read;
+		ASSERT_TRUE(FUnitTableReader::LoadFile(Path + TEXT(".csv"), FUnitTableMapping::MakeDefault(), Read));
+		ASSERT_EQ(Read.Num(), 2);
+		EXPECT_EQ(Read[0].Data.Name, TEXT("B"));
+		EXPECT_EQ(Read[1].Data.Name, TEXT("C"));
 	}
 }

@@ -8,7 +8,7 @@ public class HalvexPro : ModuleRules
 
 		PublicDependencyModuleNames.AddRange(new string[]
 		{
-			"Core", "CoreUObject", "Engine", "InputCore", "SlateCore", "Slate", "UMG", "HalvexSDK"
+			"Core", "CoreUObject", "Engine", "InputCore", "SlateCore", "Slate", "UMG", "Json", "HalvexSDK"
 		});
 	}
 }

@@ -1,8 +1,12 @@
 #include "Filters/UnitsFilterManager.h"
 
-#include "Filters/UnitFilter.h"
+#include "Filters/UnitChoiceFilter.h"
 #include "Filters/UnitFilterCollection.h"
 #include "HalvexProLog.h"
+#include "Misc/Paths.h"
+#include "Project/UnitTableWriter.h"
+#include "Templates/Casts.h"
+#include "UObject/Class.h"
 #include "UnitVolumes/UnitVolumeActor.h"
 #include "UnitVolumes/UnitVolumesManager.h"
 
@@ -10,6 +14,20 @@ namespace
 {
 	/** Handlers that change the filters at each result would keep each other busy for ever. */
 	constexpr int32 MaxResultsInARow = 16;
+
+	/** Where the values are enumerators, their order says more than that of the units. */
+	void SortByEnumerator(EUnitChoiceField Field, TArray<FUnitChoiceCount>& Counts)
+	{
+		const UEnum* const Enum = Field == EUnitChoiceField::Orientation ? StaticEnum<EUnitOrientation>()
+			: Field == EUnitChoiceField::Status ? StaticEnum<EUnitStatus>() : nullptr;
+		if (Enum)
+		{
+			Counts.Sort([Enum](const FUnitChoiceCount& A, const FUnitChoiceCount& B)
+			{
+				return Enum->GetValueByNameString(A.Value.ToString()) < Enum->GetValueByNameString(B.Value.ToString());
+			});
+		}
+	}
 }
 
 UUnitsFilterManager::FHoldResults::FHoldResults(UUnitsFilterManager& InManager)
@@ -50,15 +68,20 @@ void UUnitsFilterManager::UnregisterFilterCollection(UUnitFilterCollection* Coll
 
 const FUnitsFilterResult& UUnitsFilterManager::GetCurrentFilterResult()
 {
-	if (AUnitVolumesManager* const Owner = GetTypedOuter<AUnitVolumesManager>())
-	{
-		Owner->TakeOverUnits();
-	}
+	TakeOverUnits();
 	if (bEvaluationDue)
 	{
 		Evaluate();
 	}
 	return CurrentResult;
+}
+
+void UUnitsFilterManager::TakeOverUnits()
+{
+	if (AUnitVolumesManager* const Owner = GetTypedOuter<AUnitVolumesManager>())
+	{
+		Owner->TakeOverUnits();
+	}
 }
 
 void UUnitsFilterManager::ClearAllFilters()
@@ -76,6 +99,91 @@ void UUnitsFilterManager::ClearAllFilters()
 void UUnitsFilterManager::RefreshFilterResult()
 {
 	ReceivedCollectionChange();
+}
+
+bool UUnitsFilterManager::GetNumberLimits(EUnitNumberField Field, bool bWithoutZeros, double& OutMinimum, double& OutMaximum)
+{
+	TakeOverUnits();
+	bool bFound = false;
+	OutMinimum = 0.0;
+	OutMaximum = 0.0;
+	for (const double Number : Columns.GetNumbers(Field))
+	{
+		if (bWithoutZeros && Number == 0.0)
+		{
+			continue;
+		}
+		OutMinimum = bFound ? FMath::Min(OutMinimum, Number) : Number;
+		OutMaximum = bFound ? FMath::Max(OutMaximum, Number) : Number;
+		bFound = true;
+	}
+	return bFound;
+}
+
+TArray<FUnitChoiceCount> UUnitsFilterManager::CountChoices(EUnitChoiceField Field)
+{
+	TakeOverUnits();
+	FUnitMask Others;
+	Others.Init(Units.Num(), true);
+	ForEachFilter([this, Field, &Others](const UUnitFilter& Filter)
+	{
+		const UUnitChoiceFilter* const Choice = Cast<UUnitChoiceFilter>(&Filter);
+		if (!Choice || Choice->Field != Field)
+		{
+			ApplyFilter(Filter, Others);
+		}
+	});
+	const TArray<FName>& Names = Columns.GetChoiceNames(Field);
+	const TArray<int32>& Codes = Columns.GetChoiceCodes(Field);
+	TArray<FUnitChoiceCount> Counts;
+	Counts.SetNum(Names.Num());
+	for (int32 Code = 0; Code < Names.Num(); ++Code)
+	{
+		Counts[Code].Value = Names[Code];
+	}
+	for (int32 Index = 0; Index < Codes.Num(); ++Index)
+	{
+		FUnitChoiceCount& Count = Counts[Codes[Index]];
+		++Count.TotalNum;
+		Count.PassingNum += Others[Index] ? 1 : 0;
+	}
+	// A unit that got other data may have been the last one of its value.
+	Counts.RemoveAll([](const FUnitChoiceCount& Count) { return Count.TotalNum == 0; });
+	SortByEnumerator(Field, Counts);
+	return Counts;
+}
+
+TArray<FString> UUnitsFilterManager::FindMissingValues(const FUnitFilterSet& Set)
+{
+	TakeOverUnits();
+	const UEnum* const Fields = StaticEnum<EUnitChoiceField>();
+	TArray<FString> Missing;
+	for (const FUnitFilterRecord& Record : Set.Filters)
+	{
+		const int64 Field = Fields->GetValueByNameString(Record.Field.ToString());
+		if (Record.Kind != EUnitFilterKind::Choice || Field == INDEX_NONE)
+		{
+			continue;
+		}
+		for (const FName& Value : Record.Values)
+		{
+			if (!Columns.GetChoiceNames(EUnitChoiceField(Field)).Contains(Value))
+			{
+				Missing.Add(FString::Printf(TEXT("%s: %s"), *Record.Field.ToString().ToLower(), *Value.ToString()));
+			}
+		}
+	}
+	return Missing;
+}
+
+bool UUnitsFilterManager::SavePassingUnits(const FString& Filename)
+{
+	TArray<const FUnitData*> Data;
+	for (const AUnitVolumeActor* UnitVolume : GetCurrentFilterResult().UnitVolumes)
+	{
+		Data.Add(&UnitVolume->GetUnitData());
+	}
+	return FUnitTableWriter::SaveFile(FPaths::GetExtension(Filename).IsEmpty() ? Filename + TEXT(".csv") : Filename, Data);
 }
 
 void UUnitsFilterManager::SetUnits(const TArray<TObjectPtr<AUnitVolumeActor>>& InUnits)
@@ -145,31 +253,37 @@ void UUnitsFilterManager::Evaluate()
 {
 	bEvaluationDue = false;
 	Passing.Init(Units.Num(), true);
-	for (UUnitFilterCollection* Collection : Collections)
-	{
-		if (!Collection || Collection->IsOnInitialization())
-		{
-			continue;
-		}
-		for (UUnitFilter* Filter : Collection->GetFilters())
-		{
-			if (Filter)
-			{
-				ApplyFilter(*Filter);
-			}
-		}
-	}
+	ForEachFilter([this](const UUnitFilter& Filter) { ApplyFilter(Filter, Passing); });
 	DropUnusedAnswers();
 	BuildResult();
 	ShowPassing();
 }
 
-void UUnitsFilterManager::ApplyFilter(const UUnitFilter& Filter)
+template <typename VisitType>
+void UUnitsFilterManager::ForEachFilter(VisitType Visit) const
+{
+	for (const UUnitFilterCollection* Collection : Collections)
+	{
+		if (!Collection || Collection->IsOnInitialization())
+		{
+			continue;
+		}
+		for (const UUnitFilter* Filter : Collection->GetFilters())
+		{
+			if (Filter)
+			{
+				Visit(*Filter);
+			}
+		}
+	}
+}
+
+void UUnitsFilterManager::ApplyFilter(const UUnitFilter& Filter, FUnitMask& InOutPassing)
 {
 	const FString Condition = Filter.GetConditionText();
 	if (Condition.IsEmpty())
 	{
-		Filter.FilterUnits(Columns, Passing);
+		Filter.FilterUnits(Columns, InOutPassing);
 		return;
 	}
 	FKeptAnswer* Answer = KeptAnswers.Find(Condition);
@@ -181,7 +295,7 @@ void UUnitsFilterManager::ApplyFilter(const UUnitFilter& Filter)
 	}
 	Answer->Filter = &Filter;
 	Answer->bUsed = true;
-	Passing.AndWith(Answer->Passing);
+	InOutPassing.AndWith(Answer->Passing);
 }
 
 void UUnitsFilterManager::DropUnusedAnswers()

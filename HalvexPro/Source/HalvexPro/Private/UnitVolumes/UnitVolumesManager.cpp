@@ -259,6 +259,21 @@ void AUnitVolumesManager::AnnounceSelection()
 	}
 }
 
+void AUnitVolumesManager::SetUnitGroups(const TArray<FProjectGroup>& Groups)
+{
+	GroupNames.Reset();
+	for (const FProjectGroup& Group : Groups)
+	{
+		GroupNames.Add(Group.GroupId, Group.Name);
+	}
+}
+
+FString AUnitVolumesManager::GetUnitGroupName(FName GroupId) const
+{
+	const FString* const Name = GroupNames.Find(GroupId);
+	return Name && !Name->IsEmpty() ? *Name : GroupId.ToString();
+}
+
 void AUnitVolumesManager::SetHighlightedUnitVolume(AUnitVolumeActor* UnitVolume)
 {
 	if (UnitVolume == Highlighted || (UnitVolume && UnitVolume->Manager.Get() != this))

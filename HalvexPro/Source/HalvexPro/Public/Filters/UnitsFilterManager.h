@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Filters/UnitColumns.h"
 #include "Filters/UnitMask.h"
+#include "Filters/UnitFilterSet.h"
 #include "Filters/UnitsFilterResult.h"
 #include "UObject/Object.h"
 #include "UnitsFilterManager.generated.h"
@@ -10,6 +11,24 @@
 class AUnitVolumeActor;
 class UUnitFilter;
 class UUnitFilterCollection;
+
+/** How many units have a value. */
+USTRUCT(BlueprintType)
+struct HALVEXPRO_API FUnitChoiceCount
+{
+	GENERATED_BODY()
+
+	UPROPERTY(BlueprintReadOnly, Category = "UnitChoiceCount")
+	FName Value;
+
+	/** Of all units of the scene. */
+	UPROPERTY(BlueprintReadOnly, Category = "UnitChoiceCount")
+	int32 TotalNum = 0;
+
+	/** Of the units that pass every filter that does not choose among values of this very property. */
+	UPROPERTY(BlueprintReadOnly, Category = "UnitChoiceCount")
+	int32 PassingNum = 0;
+};
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnUnitsFilterResult, const FUnitsFilterResult&, FilterResult);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE(FOnClearAllUnitFilters);
@@ -52,6 +71,26 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "UnitsFilterManager")
 	void RefreshFilterResult();
 
+	/**
+	 * The least and the greatest number that the units have.
+	 * @param bWithoutZeros	leaves out the units where it is 0: a price that is told on request
+	 * @return false, with zeros, when there are none
+	 */
+	UFUNCTION(BlueprintCallable, Category = "UnitsFilterManager")
+	bool GetNumberLimits(EUnitNumberField Field, bool bWithoutZeros, double& OutMinimum, double& OutMaximum);
+
+	/** The values that the units have: orientations and states in the order of their enumerators, others as the units come. */
+	UFUNCTION(BlueprintCallable, Category = "UnitsFilterManager")
+	TArray<FUnitChoiceCount> CountChoices(EUnitChoiceField Field);
+
+	/** What a set of filters asks for that no unit has, a line for each value: "building: tower". */
+	UFUNCTION(BlueprintCallable, Category = "UnitsFilterManager")
+	TArray<FString> FindMissingValues(const FUnitFilterSet& Set);
+
+	/** Writes the units that pass as a table (see FUnitTableWriter). A path without an extension gets ".csv". */
+	UFUNCTION(BlueprintCallable, Category = "UnitsFilterManager")
+	bool SavePassingUnits(const FString& Filename);
+
 	/** For the units' manager: takes these units in place of those so far; nothing is raised. */
 	void SetUnits(const TArray<TObjectPtr<AUnitVolumeActor>>& InUnits);
 
@@ -81,9 +120,14 @@ private:
 	};
 
 	void ReceivedCollectionChange();
+	/** Has the units' manager hand over what came and went. */
+	void TakeOverUnits();
 	void RaiseResults();
 	void Evaluate();
-	void ApplyFilter(const UUnitFilter& Filter);
+	void ApplyFilter(const UUnitFilter& Filter, FUnitMask& InOutPassing);
+	/** Calls Visit(Filter) for each filter that counts. */
+	template <typename VisitType>
+	void ForEachFilter(VisitType Visit) const;
 	void DropUnusedAnswers();
 	void BuildResult();
 	/** Tells the units whose state changed. */

@@ -96,6 +96,14 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
 	TArray<AUnitVolumeActor*> GetSelectedUnitVolumes() const { return ObjectPtrDecay(Selection); }
 
+	/** Tells what the groups are called that units belong to. */
+	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
+	void SetUnitGroups(const TArray<FProjectGroup>& Groups);
+
+	/** What people call a group; its key when nobody has told. */
+	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
+	FString GetUnitGroupName(FName GroupId) const;
+
 	/** Highlights a registered unit in place of the one before; null for none. */
 	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
 	void SetHighlightedUnitVolume(AUnitVolumeActor* UnitVolume);
@@ -134,6 +142,7 @@ private:
 	TObjectPtr<AUnitVolumeActor> Highlighted;
 
 	TMap<FName, TWeakObjectPtr<AUnitVolumeActor>> UnitOfId;
+	TMap<FName, FString> GroupNames;
 
 	bool bUnitsChanged = false;
 	bool bAnnouncementDue = false;

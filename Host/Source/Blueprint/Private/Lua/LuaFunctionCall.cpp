@@ -141,6 +141,18 @@ namespace Host
 		lua_pushcclosure(State, &CallFunction, 1);
 	}
 
+	namespace
+	{
+		/** How many arguments the function on top of the stack has a use for. */
+		int32 CountWantedArguments(lua_State* State)
+		{
+			lua_Debug Info;
+			lua_pushvalue(State, -1);
+			lua_getinfo(State, ">u", &Info);
+			return Info.isvararg ? TNumericLimits<int32>::Max() : int32(Info.nparams);
+		}
+	}
+
 	void CallScriptedFunction(const FLuaReference& Script, const UObject* Self, const UFunction& Signature, void* Parms)
 	{
 		FLuaMachine* Machine = FLuaMachine::GetIfRunning();
@@ -152,8 +164,10 @@ namespace Host
 		luaL_checkstack(State, Signature.NumParms + 8, nullptr);
 		const int Base = lua_gettop(State);
 		Script.Push(State);
+		// What a script has no parameter for is not converted: it may be the data of a whole project.
+		const int32 NumWanted = CountWantedArguments(State);
 		int32 NumArguments = 0;
-		if (Self)
+		if (Self && NumWanted > 0)
 		{
 			PushLuaObject(State, Self);
 			++NumArguments;
@@ -163,11 +177,15 @@ namespace Host
 		NumResults += Return != nullptr;
 		for (TFieldIterator<FProperty> It(&Signature); It; ++It)
 		{
-			if (!IsReturn(**It))
+			if (IsReturn(**It))
+			{
+				continue;
+			}
+			NumResults += IsOut(**It);
+			if (NumArguments < NumWanted)
 			{
 				PushLuaValue(State, **It, It->ContainerPtrToValuePtr<void>(Parms));
 				++NumArguments;
-				NumResults += IsOut(**It);
 			}
 		}
 		if (Machine->Call(NumArguments, NumResults))

@@ -29,6 +29,7 @@ namespace Host
 	FProjectScene::FProjectScene(const FProjectData& Project, FSlateRenderer* WindowRenderer, double AspectRatio)
 	{
 		Manager.Reset(GEngine->GetGameInstance()->GetWorld()->SpawnActor<AUnitVolumesManager>());
+		Manager->SetUnitGroups(Project.Groups);
 		Manager->SpawnUnits(Project.Units);
 		Binding.Reset(NewObject<UUnitSceneBinding>());
 		Viewport = Binding->Bind(*Manager, WindowRenderer);
