@@ -1,0 +1,528 @@
+#include "Configurator/HalvexVariantHandler.h"
+
+#include "Algo/Reverse.h"
+#include "Configurator/HalvexCatalogueIndex.h"
+#include "Configurator/HalvexConfiguratorDataAsset.h"
+#include "Configurator/HalvexThumbnails.h"
+#include "Engine/Texture2D.h"
+#include "HalvexProLog.h"
+
+namespace
+{
+	using FSubCategory = FHalvexCatalogueIndex::FSubCategory;
+
+	FHalvexItemOverrideData MakeItem(FName Key, const FString& Name, FName Image, const FHalvexItemOverrideData* Override)
+	{
+		FHalvexItemOverrideData Item;
+		Item.KeyName = Key;
+		Item.DisplayText = FText::FromString(Name.IsEmpty() ? Key.ToString() : Name);
+		Item.Image = Image;
+		if (Override)
+		{
+			Item.DisplayText = Override->DisplayText.IsEmpty() ? Item.DisplayText : Override->DisplayText;
+			Item.Thumbnail = Override->Thumbnail;
+			Item.Image = Override->Image.IsNone() ? Image : Override->Image;
+		}
+		return Item;
+	}
+
+	FHalvexItemOverrideData MakeProductItem(const UHalvexConfiguratorDataAsset& Asset, const FHalvexConfigProduct& Product)
+	{
+		return MakeItem(Product.ProductKey, Product.Name, Product.Image, Asset.ProductOverrides.Find(Product.ProductKey));
+	}
+
+	/** Null where there is nothing of the kind, or no asset at all. */
+	const FHalvexCatalogueIndex::FCategory* FindCategory(const UHalvexConfiguratorDataAsset* Asset, FName Category)
+	{
+		return Asset ? Asset->GetIndex().FindCategory(Category) : nullptr;
+	}
+
+	const FSubCategory* FindSubCategory(const UHalvexConfiguratorDataAsset* Asset, FName Category, FName SubCategory)
+	{
+		return Asset ? Asset->GetIndex().FindSubCategory(Category, SubCategory) : nullptr;
+	}
+
+	const FHalvexCatalogueIndex::FVariantPlace* FindVariant(const UHalvexConfiguratorDataAsset* Asset, FName Variant)
+	{
+		return Asset ? Asset->GetIndex().FindVariant(Variant) : nullptr;
+	}
+
+	FName FindActive(const TMap<FName, FName>& ChosenOfKey, const FSubCategory& SubCategory)
+	{
+		const FName* const Chosen = ChosenOfKey.Find(SubCategory.Key);
+		return Chosen ? *Chosen : SubCategory.GetDefaultName();
+	}
+
+	double FindPriceDifference(const FHalvexCatalogueIndex::FVariantPlace& Place)
+	{
+		const FCatalogueVariant* const Default = Place.SubCategory->Default;
+		return Place.Variant->Product.Price - (Default ? Default->Product.Price : 0.0);
+	}
+
+	TArray<FHalvexVariantChoice> GetWithout(const TArray<FHalvexVariantChoice>& Choices, FName Key)
+	{
+		return Choices.FilterByPredicate([Key](const FHalvexVariantChoice& Choice) { return Choice.Key != Key; });
+	}
+
+	bool LookAlike(const TArray<FVariantSurfaceLook>& A, const TArray<FVariantSurfaceLook>& B)
+	{
+		bool bAlike = A.Num() == B.Num();
+		for (int32 Index = 0; bAlike && Index < A.Num(); ++Index)
+		{
+			bAlike = A[Index].Surface == B[Index].Surface && A[Index].Color == B[Index].Color && A[Index].Roughness == B[Index].Roughness;
+		}
+		return bAlike;
+	}
+}
+
+UHalvexVariantHandler::UHalvexVariantHandler()
+{
+	Thumbnails = CreateDefaultSubobject<UHalvexThumbnails>(TEXT("Thumbnails"));
+	Thumbnails->OnArrived.BindWeakLambda(this, [this](FName Image, UTexture2D* Thumbnail) { OnThumbnailReady.Broadcast(Image, Thumbnail); });
+}
+
+void UHalvexVariantHandler::SetVariantConfigurator(UHalvexConfiguratorDataAsset* InConfigurator)
+{
+	if (Configurator == InConfigurator)
+	{
+		return;
+	}
+	if (Configurator)
+	{
+		Configurator->OnCatalogueChanged.RemoveAll(this);
+		Configurator->OnProductListChanged.RemoveAll(this);
+	}
+	Configurator = InConfigurator;
+	if (Configurator)
+	{
+		Configurator->OnCatalogueChanged.AddUObject(this, &UHalvexVariantHandler::ReceivedCatalogueChange);
+		Configurator->OnProductListChanged.AddUObject(this, &UHalvexVariantHandler::ReceivedProductListChange);
+	}
+	ReceivedCatalogueChange();
+}
+
+void UHalvexVariantHandler::ReceivedCatalogueChange()
+{
+	Thumbnails->Reset();
+	Change(Choices, GetProductList(), true);
+}
+
+void UHalvexVariantHandler::ReceivedProductListChange()
+{
+	if (!bExchangingProductList)
+	{
+		OnVariantChange.Broadcast();
+	}
+}
+
+// Selection.
+
+void UHalvexVariantHandler::ClearSelections()
+{
+	SelectedCategory = FName();
+	SelectedSubCategory = FName();
+	SelectedVariant = FName();
+}
+
+void UHalvexVariantHandler::SetCategory(const FName& Category)
+{
+	const FName Asked = Category;
+	ClearSelections();
+	if (FindCategory(Configurator, Asked))
+	{
+		SelectedCategory = Asked;
+	}
+	else
+	{
+		UE_LOG(LogHalvexPro, Warning, TEXT("Configurator: there is no category '%s'"), *Asked.ToString());
+	}
+}
+
+void UHalvexVariantHandler::SetSubCategory(const FName& SubCategory)
+{
+	const FName Asked = SubCategory;
+	SelectedSubCategory = FName();
+	SelectedVariant = FName();
+	if (FindSubCategory(Configurator, SelectedCategory, Asked))
+	{
+		SelectedSubCategory = Asked;
+	}
+	else
+	{
+		UE_LOG(LogHalvexPro, Warning, TEXT("Configurator: the selected category '%s' has no subcategory '%s'"), *SelectedCategory.ToString(), *Asked.ToString());
+	}
+}
+
+bool UHalvexVariantHandler::SetVariant(const FName& Variant, bool bActive)
+{
+	const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Variant);
+	if (!Place)
+	{
+		UE_LOG(LogHalvexPro, Warning, TEXT("Configurator: there is no variant '%s'"), *Variant.ToString());
+		return false;
+	}
+	const FName Asked = Variant;
+	const FSubCategory& SubCategory = *Place->SubCategory;
+	const FName Category = SubCategory.Category;
+	const FName SubCategoryId = SubCategory.Data->SubCategoryId;
+	SelectedCategory = Category;
+	SelectedSubCategory = SubCategoryId;
+	SelectedVariant = bActive ? Asked : FName();
+
+	const bool bIsActive = FindActive(ChosenOfKey, SubCategory) == Asked;
+	TArray<FHalvexVariantChoice> NewChoices = Choices;
+	if (bIsActive != bActive)
+	{
+		NewChoices = GetWithout(Choices, SubCategory.Key);
+		if (bActive)
+		{
+			NewChoices.Add(FHalvexVariantChoice{ SubCategory.Key, Asked });
+		}
+	}
+	TArray<FName> NewProductList = GetProductList();
+	if (bActive && !NewProductList.Contains(Asked))
+	{
+		NewProductList.RemoveAll([&](FName Product) { return SubCategory.FindVariant(Product) != INDEX_NONE; });
+		NewProductList.Add(Asked);
+	}
+	else if (!bActive)
+	{
+		NewProductList.Remove(Asked);
+	}
+	// From here on the catalogue may be another: listeners can exchange it.
+	Change(NewChoices, NewProductList, false);
+	return (GetActiveVariant(Category, SubCategoryId) == Asked) == bActive;
+}
+
+void UHalvexVariantHandler::DropMissingSelection()
+{
+	if (!SelectedCategory.IsNone() && !FindCategory(Configurator, SelectedCategory))
+	{
+		UE_LOG(LogHalvexPro, Warning, TEXT("Configurator: the selected category '%s' is not in the catalogue any longer"), *SelectedCategory.ToString());
+		ClearSelections();
+	}
+	else if (!SelectedSubCategory.IsNone() && !FindSubCategory(Configurator, SelectedCategory, SelectedSubCategory))
+	{
+		UE_LOG(LogHalvexPro, Warning, TEXT("Configurator: the selected subcategory '%s.%s' is not in the catalogue any longer"), *SelectedCategory.ToString(), *SelectedSubCategory.ToString());
+		SelectedSubCategory = FName();
+		SelectedVariant = FName();
+	}
+}
+
+// Catalogue.
+
+TArray<FName> UHalvexVariantHandler::GetAllCategoryValues() const
+{
+	TArray<FName> Values;
+	if (Configurator)
+	{
+		for (const FHalvexCatalogueIndex::FCategory& Category : Configurator->GetIndex().GetCategories())
+		{
+			Values.Add(Category.Data->CategoryId);
+		}
+	}
+	return Values;
+}
+
+TArray<FName> UHalvexVariantHandler::GetSubCatsFromSelectedCat(bool bDropMissing)
+{
+	if (bDropMissing)
+	{
+		DropMissingSelection();
+	}
+	TArray<FName> Values;
+	if (const FHalvexCatalogueIndex::FCategory* const Category = FindCategory(Configurator, SelectedCategory))
+	{
+		for (const FSubCategory& SubCategory : Category->SubCategories)
+		{
+			Values.Add(SubCategory.Data->SubCategoryId);
+		}
+	}
+	return Values;
+}
+
+TArray<FName> UHalvexVariantHandler::GetVariantsFromSelectedSubCat(bool bDropMissing)
+{
+	if (bDropMissing)
+	{
+		DropMissingSelection();
+	}
+	TArray<FName> Values;
+	if (const FSubCategory* const SubCategory = FindSubCategory(Configurator, SelectedCategory, SelectedSubCategory))
+	{
+		Values.Reserve(SubCategory->Variants.Num());
+		for (const FCatalogueVariant* const Variant : SubCategory->Variants)
+		{
+			Values.Add(Variant->Product.ProductKey);
+		}
+	}
+	return Values;
+}
+
+TArray<FHalvexItemOverrideData> UHalvexVariantHandler::GetAllCategoryOverrideData() const
+{
+	TArray<FHalvexItemOverrideData> Items;
+	if (Configurator)
+	{
+		for (const FHalvexCatalogueIndex::FCategory& Category : Configurator->GetIndex().GetCategories())
+		{
+			const FCatalogueCategory& Data = *Category.Data;
+			Items.Add(MakeItem(Data.CategoryId, Data.Name, Data.Image, Configurator->CategoryOverrides.Find(Data.CategoryId)));
+		}
+	}
+	return Items;
+}
+
+TArray<FHalvexItemOverrideData> UHalvexVariantHandler::GetSubCategoryOverrideData() const
+{
+	TArray<FHalvexItemOverrideData> Items;
+	if (const FHalvexCatalogueIndex::FCategory* const Category = FindCategory(Configurator, SelectedCategory))
+	{
+		for (const FSubCategory& SubCategory : Category->SubCategories)
+		{
+			const FCatalogueSubCategory& Data = *SubCategory.Data;
+			Items.Add(MakeItem(Data.SubCategoryId, Data.Name, Data.Image, Configurator->SubCategoryOverrides.Find(SubCategory.Key)));
+		}
+	}
+	return Items;
+}
+
+TArray<FHalvexItemOverrideData> UHalvexVariantHandler::GetProductOverrideData() const
+{
+	TArray<FHalvexItemOverrideData> Items;
+	if (const FSubCategory* const SubCategory = FindSubCategory(Configurator, SelectedCategory, SelectedSubCategory))
+	{
+		Items.Reserve(SubCategory->Variants.Num());
+		for (const FCatalogueVariant* const Variant : SubCategory->Variants)
+		{
+			Items.Add(MakeProductItem(*Configurator, Variant->Product));
+		}
+	}
+	return Items;
+}
+
+bool UHalvexVariantHandler::GetProductDataFromVariant(const FName& Variant, FHalvexConfigProduct& OutProduct) const
+{
+	return Configurator && Configurator->GetConfiguratorProductByKey(Variant, OutProduct);
+}
+
+// Pictures.
+
+bool UHalvexVariantHandler::GetVariantThumbnail(UTexture2D*& OutThumbnail, FName Variant)
+{
+	const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Variant);
+	return GetThumbnail(OutThumbnail, Place ? MakeProductItem(*Configurator, Place->Variant->Product).Image : FName());
+}
+
+bool UHalvexVariantHandler::GetThumbnail(UTexture2D*& OutThumbnail, FName Image)
+{
+	OutThumbnail = Configurator ? Thumbnails->Get(Image, Configurator->Images) : nullptr;
+	return OutThumbnail != nullptr;
+}
+
+// Active variants.
+
+bool UHalvexVariantHandler::GetVariantActiveIndex(int32& OutIndex) const
+{
+	const FSubCategory* const SubCategory = FindSubCategory(Configurator, SelectedCategory, SelectedSubCategory);
+	OutIndex = SubCategory ? SubCategory->FindVariant(FindActive(ChosenOfKey, *SubCategory)) : INDEX_NONE;
+	return OutIndex != INDEX_NONE;
+}
+
+FName UHalvexVariantHandler::GetVariantActivatedFromSelection() const
+{
+	return GetActiveVariant(SelectedCategory, SelectedSubCategory);
+}
+
+FName UHalvexVariantHandler::GetActiveVariant(FName Category, FName SubCategory) const
+{
+	const FSubCategory* const Found = FindSubCategory(Configurator, Category, SubCategory);
+	return Found ? FindActive(ChosenOfKey, *Found) : FName();
+}
+
+TMap<FName, FName> UHalvexVariantHandler::GetActiveVariants() const
+{
+	TMap<FName, FName> Active;
+	if (Configurator)
+	{
+		for (const FHalvexCatalogueIndex::FCategory& Category : Configurator->GetIndex().GetCategories())
+		{
+			for (const FSubCategory& SubCategory : Category.SubCategories)
+			{
+				const FName Variant = FindActive(ChosenOfKey, SubCategory);
+				if (!Variant.IsNone())
+				{
+					Active.Add(SubCategory.Key, Variant);
+				}
+			}
+		}
+	}
+	return Active;
+}
+
+TArray<FVariantSurfaceLook> UHalvexVariantHandler::GetSurfaceLooks() const
+{
+	TArray<FVariantSurfaceLook> Looks;
+	TMap<FName, int32> IndexOfSurface;
+	for (const TPair<FName, FName>& Active : GetActiveVariants())
+	{
+		for (const FVariantSurfaceLook& Look : FindVariant(Configurator, Active.Value)->Variant->Looks)
+		{
+			if (const int32* const Index = IndexOfSurface.Find(Look.Surface))
+			{
+				Looks[*Index] = Look;
+			}
+			else
+			{
+				IndexOfSurface.Add(Look.Surface, Looks.Add(Look));
+			}
+		}
+	}
+	return Looks;
+}
+
+// Changes.
+
+TMap<FName, FHalvexConfigProduct> UHalvexVariantHandler::GetConfigtorChangeList() const
+{
+	TMap<FName, FHalvexConfigProduct> ChangeList;
+	for (const FHalvexVariantChoice& Choice : Choices)
+	{
+		GetProductDataFromVariant(Choice.Variant, ChangeList.Add(Choice.Key));
+	}
+	return ChangeList;
+}
+
+bool UHalvexVariantHandler::TakeBackChange(const FName& Key)
+{
+	const FName* const Chosen = ChosenOfKey.Find(Key);
+	if (!Chosen)
+	{
+		return false;
+	}
+	TArray<FName> NewProductList = GetProductList();
+	NewProductList.Remove(*Chosen);
+	Change(GetWithout(Choices, Key), NewProductList, false);
+	return true;
+}
+
+void UHalvexVariantHandler::ResetChanges()
+{
+	TSet<FName> Chosen;
+	for (const FHalvexVariantChoice& Choice : Choices)
+	{
+		Chosen.Add(Choice.Variant);
+	}
+	TArray<FName> NewProductList = GetProductList();
+	NewProductList.RemoveAll([&Chosen](FName Product) { return Chosen.Contains(Product); });
+	Change(TArray<FHalvexVariantChoice>(), NewProductList, false);
+}
+
+double UHalvexVariantHandler::GetPriceDifference(const FName& Variant) const
+{
+	const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Variant);
+	return Place ? FindPriceDifference(*Place) : 0.0;
+}
+
+double UHalvexVariantHandler::GetPriceOfChanges() const
+{
+	double Sum = 0.0;
+	for (const FHalvexVariantChoice& Choice : Choices)
+	{
+		Sum += GetPriceDifference(Choice.Variant);
+	}
+	return Sum;
+}
+
+FHalvexConfiguratorState UHalvexVariantHandler::GetConfiguratorState() const
+{
+	FHalvexConfiguratorState State;
+	State.Choices = Choices;
+	State.ProductList = GetProductList();
+	return State;
+}
+
+void UHalvexVariantHandler::SetConfiguratorState(const FHalvexConfiguratorState& State)
+{
+	Change(State.Choices, State.ProductList, false);
+}
+
+void UHalvexVariantHandler::Change(const TArray<FHalvexVariantChoice>& NewChoices, const TArray<FName>& NewProductList, bool bCatalogueChanged)
+{
+	TArray<FHalvexVariantChoice> Possible = FindPossible(NewChoices);
+	const bool bListChanges = ExchangeProductList(NewProductList);
+	const bool bChoicesChange = Possible != Choices;
+	const bool bChangeListChanges = bChoicesChange || (bCatalogueChanged && !Possible.IsEmpty());
+	Choices = MoveTemp(Possible);
+	ChosenOfKey.Reset();
+	for (const FHalvexVariantChoice& Choice : Choices)
+	{
+		ChosenOfKey.Add(Choice.Key, Choice.Variant);
+	}
+	if (bChoicesChange || bListChanges || bCatalogueChanged)
+	{
+		OnVariantChange.Broadcast();
+	}
+	TArray<FVariantSurfaceLook> Looks = GetSurfaceLooks();
+	if (!LookAlike(Looks, LastLooks))
+	{
+		LastLooks = Looks;
+		OnSurfaceLooksChange.Broadcast(Looks);
+	}
+	if (bChangeListChanges)
+	{
+		OnChangeListChanged.Broadcast();
+	}
+}
+
+TArray<FHalvexVariantChoice> UHalvexVariantHandler::FindPossible(const TArray<FHalvexVariantChoice>& Wanted) const
+{
+	TArray<FHalvexVariantChoice> Possible;
+	if (!Configurator)
+	{
+		return Possible;
+	}
+	TArray<FString> Missing;
+	// Of several choices in one subcategory the last counts.
+	TSet<FName> Taken;
+	for (int32 Index = Wanted.Num() - 1; Index >= 0; --Index)
+	{
+		const FHalvexVariantChoice& Choice = Wanted[Index];
+		const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Choice.Variant);
+		if (!Place || Place->SubCategory->Key != Choice.Key)
+		{
+			Missing.Add(FString::Printf(TEXT("'%s' in '%s'"), *Choice.Variant.ToString(), *Choice.Key.ToString()));
+			continue;
+		}
+		bool bTaken = false;
+		Taken.Add(Choice.Key, &bTaken);
+		if (!bTaken && Place->Variant != Place->SubCategory->Default)
+		{
+			Possible.Add(Choice);
+		}
+	}
+	Algo::Reverse(Possible);
+	if (!Missing.IsEmpty())
+	{
+		Algo::Reverse(Missing);
+		UE_LOG(LogHalvexPro, Warning, TEXT("Configurator: not in the catalogue, and so not chosen: %s"), *FString::Join(Missing, TEXT(", ")));
+	}
+	return Possible;
+}
+
+TArray<FName> UHalvexVariantHandler::GetProductList() const
+{
+	return Configurator ? Configurator->GetProductList() : TArray<FName>();
+}
+
+bool UHalvexVariantHandler::ExchangeProductList(const TArray<FName>& NewProductList)
+{
+	if (!Configurator || !Configurator->IsSelectingByProductList())
+	{
+		return false;
+	}
+	const TGuardValue<bool> Exchanging(bExchangingProductList, true);
+	const TArray<FName> Before = Configurator->GetProductList();
+	Configurator->SetProductList(NewProductList);
+	return Configurator->GetProductList() != Before;
+}
