@@ -1,7 +1,6 @@
-#include "EngineTest.h"
+#include "ProjectTextTest.h"
 
 #include "Misc/FileHelper.h"
-#include "Project/ProjectReader.h"
 
 #include <random>
 
@@ -9,28 +8,8 @@ namespace
 {
 	using Host::ToStd;
 
-	class FProjectReaderTest : public testing::Test
+	class FProjectReaderTest : public FProjectTextTest
 	{
-	protected:
-		bool Read(const std::string& Text)
-		{
-			Problems = MakeUnique<FReadProblems>(TEXT("project.json"));
-			return FProjectReader::ReadBytes(MakeArrayView(reinterpret_cast<const uint8*>(Text.data()), int32(Text.size())), Project, *Problems);
-		}
-
-		/** The messages, a line each. */
-		std::string Messages() const
-		{
-			std::string All;
-			for (const FString& Message : Problems->GetMessages())
-			{
-				All += ToStd(Message) + "\n";
-			}
-			return All;
-		}
-
-		FProjectData Project;
-		TUniquePtr<FReadProblems> Problems;
 	};
 
 	const char* const Whole = R"({
@@ -44,8 +23,11 @@ namespace
 			"rooms": 2, "baths": 1, "area": 64.5, "outdoorArea": 8, "price": 420000, "orientation": "SouthWest", "status": "Reserved",
 			"volume": { "outline": [0, 0, 800, 0, 800, 600], "bottom": 300, "top": 600 } },
 		{ "id": "N2", "volume": { "min": [0, 0, 0], "max": [100, 200, 300] } },
-		{ "id": "N3" }
-	]
+		{ "id": "N3", "interior": "flat" }
+	],
+	"interiors": [{ "id": "flat", "parts": [{ "surface": "Floor", "volume": { "min": [0, 0, 0], "max": [400, 300, 2] } }] }],
+	"catalogue": { "categories": [{ "id": "Kitchen", "subCategories": [{ "id": "Fronts", "default": "oak", "products": [
+		{ "id": "oak", "price": 10, "looks": [{ "surface": "Floor", "color": "#C8A070", "roughness": 0.5 }] }] }] }] }
 })";
 
 	TEST_F(FProjectReaderTest, EveryFieldOfAProjectIsRead)
@@ -93,6 +75,7 @@ namespace
 		EXPECT_TRUE(Project.Units[1].Volume.IsBox());
 		EXPECT_EQ(Project.Units[1].Volume.Max, FVector(100.0, 200.0, 300.0));
 		EXPECT_FALSE(Project.Units[2].Volume.HasVolume());
+		EXPECT_EQ(ToStd(Project.Units[2].Data.Interior), "flat");
 	}
 
 	TEST_F(FProjectReaderTest, ProjectsCurrencyIsThatOfUnitsWithoutOne)

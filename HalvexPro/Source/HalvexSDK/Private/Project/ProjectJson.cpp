@@ -5,18 +5,7 @@ namespace
 	/** Of the format that this reads; a project of a later one is refused. */
 	constexpr double FormatVersion = 1.0;
 
-	/** 1000 kilometres, in centimetres. */
-	constexpr double MaxCoordinate = 1e8;
-
 	constexpr int32 MaxCorners = 1000;
-
-	FUtf8StringView ViewBytes(TConstArrayView<uint8> Bytes)
-	{
-		return FUtf8StringView(reinterpret_cast<const UTF8CHAR*>(Bytes.GetData()), Bytes.Num());
-	}
-
-	/** What a decoder puts in the place of bytes that are no UTF-8. */
-	constexpr TCHAR ReplacementCharacter = 0xFFFD;
 
 	/** Whether a path from the project's folder leads out of it, or is none. */
 	bool LeavesFolder(const FString& Address)
@@ -32,9 +21,8 @@ namespace
 }
 
 FProjectJson::FProjectJson(TConstArrayView<uint8> Bytes, FProjectData& InProject, FReadProblems& InProblems)
-	: Reader(TJsonReaderFactory<UTF8CHAR>::CreateFromView(ViewBytes(Bytes)))
+	: FProjectJsonText(Bytes, InProblems)
 	, Project(InProject)
-	, Problems(InProblems)
 {
 }
 
@@ -56,14 +44,7 @@ bool FProjectJson::Read()
 	{
 	}
 	CheckReferences();
-	// Last, as the project's own may stand behind its units.
-	for (FProjectUnit& Unit : Project.Units)
-	{
-		if (Unit.Data.Currency.IsNone())
-		{
-			Unit.Data.Currency = Project.Currency;
-		}
-	}
+	SpreadCurrency();
 	return !bBroken;
 }
 
@@ -84,6 +65,14 @@ void FProjectJson::ReadProjectMember()
 	else if (Member == TEXT("spots"))
 	{
 		ReadObjects(TEXT("spots"), [this] { ReadSpot(); });
+	}
+	else if (Member == TEXT("interiors"))
+	{
+		ReadObjects(TEXT("interiors"), [this] { ReadInterior(); });
+	}
+	else if (Member == TEXT("catalogue"))
+	{
+		ReadCatalogue();
 	}
 	else if (Member == TEXT("id"))
 	{
@@ -111,8 +100,7 @@ void FProjectJson::ReadProjectMember()
 	}
 	else
 	{
-		Report(TEXT("there is no such field"));
-		Skip();
+		ReportUnknown();
 	}
 }
 
@@ -150,8 +138,7 @@ void FProjectJson::ReadUnitField(FProjectUnit& Unit, EUnitRecordField& Hint)
 	const EUnitRecordField Field = FUnitRecordFields::Find(Member, Hint);
 	if (Field == EUnitRecordField::Num)
 	{
-		Report(TEXT("there is no such field"));
-		Skip();
+		ReportUnknown();
 		return;
 	}
 	Hint = Field == EUnitRecordField::Volume ? EUnitRecordField::Id : EUnitRecordField(int32(Field) + 1);
@@ -192,15 +179,19 @@ void FProjectJson::ReadUnitValue(FUnitData& Unit, EUnitRecordField Field)
 		}
 		if (Field == EUnitRecordField::Id)
 		{
-			Key = Unit.UnitId;
+			SetKey(Unit.UnitId);
 		}
 		else if (Field == EUnitRecordField::Building)
 		{
-			Refer(Unit.Building, TEXT("building"), true);
+			Refer(Unit.Building, EKind::Group);
 		}
 		else if (Field == EUnitRecordField::Image)
 		{
-			Refer(Unit.Image, TEXT("image"), false);
+			Refer(Unit.Image, EKind::Image);
+		}
+		else if (Field == EUnitRecordField::Interior)
+		{
+			Refer(Unit.Interior, EKind::Interior);
 		}
 		return;
 	}
@@ -262,8 +253,7 @@ void FProjectJson::ReadVolume(FUnitVolumeShape& OutVolume)
 		}
 		else
 		{
-			Report(TEXT("there is no such field"));
-			Skip();
+			ReportUnknown();
 		}
 	});
 	Member = TEXT("volume");
@@ -288,7 +278,7 @@ void FProjectJson::ReadGroup()
 		if (Member == TEXT("id"))
 		{
 			ReadKey(Group.GroupId);
-			Key = Group.GroupId;
+			SetKey(Group.GroupId);
 		}
 		else if (Member == TEXT("name"))
 		{
@@ -296,28 +286,16 @@ void FProjectJson::ReadGroup()
 		}
 		else if (Member == TEXT("image"))
 		{
-			ReadKey(Group.Image);
-			Refer(Group.Image, TEXT("image"), false);
+			ReadImageKey(Group.Image);
 		}
 		else
 		{
-			Report(TEXT("there is no such field"));
-			Skip();
+			ReportUnknown();
 		}
 	});
-	bool bAlreadyThere = Group.GroupId.IsNone();
-	if (!bAlreadyThere)
-	{
-		GroupIds.Add(Group.GroupId, &bAlreadyThere);
-	}
-	if (!bAlreadyThere)
+	if (TakeKey(GetIds(EKind::Group), Group.GroupId, TEXT("group")))
 	{
 		Project.Groups.Add(MoveTemp(Group));
-	}
-	else if (!bBroken)
-	{
-		Member = TEXT("id");
-		Report(TEXT("expected a key that no other group has: this one is left out"));
 	}
 }
 
@@ -329,7 +307,7 @@ void FProjectJson::ReadImage()
 		if (Member == TEXT("id"))
 		{
 			ReadKey(Image.ImageId);
-			Key = Image.ImageId;
+			SetKey(Image.ImageId);
 		}
 		else if (Member == TEXT("address"))
 		{
@@ -345,23 +323,12 @@ void FProjectJson::ReadImage()
 		}
 		else
 		{
-			Report(TEXT("there is no such field"));
-			Skip();
+			ReportUnknown();
 		}
 	});
-	bool bAlreadyThere = Image.ImageId.IsNone();
-	if (!bAlreadyThere)
-	{
-		ImageIds.Add(Image.ImageId, &bAlreadyThere);
-	}
-	if (!bAlreadyThere)
+	if (TakeKey(GetIds(EKind::Image), Image.ImageId, TEXT("image")))
 	{
 		Project.Images.Add(MoveTemp(Image));
-	}
-	else if (!bBroken)
-	{
-		Member = TEXT("id");
-		Report(TEXT("expected a key that no other image has: this one is left out"));
 	}
 }
 
@@ -373,7 +340,7 @@ void FProjectJson::ReadSpot()
 		if (Member == TEXT("id"))
 		{
 			ReadKey(Spot.SpotId);
-			Key = Spot.SpotId;
+			SetKey(Spot.SpotId);
 		}
 		else if (Member == TEXT("title"))
 		{
@@ -385,8 +352,7 @@ void FProjectJson::ReadSpot()
 		}
 		else if (Member == TEXT("image"))
 		{
-			ReadKey(Spot.Image);
-			Refer(Spot.Image, TEXT("image"), false);
+			ReadImageKey(Spot.Image);
 		}
 		else if (Member == TEXT("location"))
 		{
@@ -394,228 +360,82 @@ void FProjectJson::ReadSpot()
 		}
 		else
 		{
-			Report(TEXT("there is no such field"));
-			Skip();
+			ReportUnknown();
 		}
 	});
-	const bool bAlreadyThere = Project.Spots.ContainsByPredicate([&Spot](const FProjectSpot& Other) { return Other.SpotId == Spot.SpotId; });
-	if (!Spot.SpotId.IsNone() && !bAlreadyThere)
+	if (TakeKey(SpotIds, Spot.SpotId, TEXT("spot")))
 	{
 		Project.Spots.Add(MoveTemp(Spot));
 	}
-	else if (!bBroken)
+}
+
+void FProjectJson::ReadImageKey(FName& Out)
+{
+	ReadKey(Out);
+	Refer(Out, EKind::Image);
+}
+
+bool FProjectJson::TakeKey(TSet<FName>& Taken, FName Id, const TCHAR* KindOfObject)
+{
+	bool bAlreadyThere = Id.IsNone();
+	if (!bAlreadyThere)
+	{
+		Taken.Add(Id, &bAlreadyThere);
+	}
+	// A text that ends in the middle of an object has its own message.
+	if (bAlreadyThere && !bBroken)
 	{
 		Member = TEXT("id");
-		Report(TEXT("expected a key that no other spot has: this one is left out"));
+		Report(FString::Printf(TEXT("expected a key that no other %s has: this one is left out"), KindOfObject));
 	}
+	return !bAlreadyThere;
 }
 
-void FProjectJson::ReadObjects(const TCHAR* Name, TFunctionRef<void()> ReadElement)
+void FProjectJson::Refer(FName To, EKind Kind)
 {
-	if (Notation != EJsonNotation::ArrayStart)
+	if (!To.IsNone() && !GetIds(Kind).Contains(To))
 	{
-		ReportExpected(TEXT("an array"));
-		Skip();
-		return;
-	}
-	Section = Name;
-	Index = INDEX_NONE;
-	Member.Reset();
-	while (Next() && Notation != EJsonNotation::ArrayEnd)
-	{
-		++Index;
-		Key = FName();
-		if (Notation == EJsonNotation::ObjectStart)
-		{
-			ReadElement();
-		}
-		else
-		{
-			ReportExpected(TEXT("an object"));
-			Skip();
-		}
-		Member.Reset();
-	}
-	Section = TEXT("");
-	Index = INDEX_NONE;
-	Key = FName();
-}
-
-void FProjectJson::ReadMembers(TFunctionRef<void(const FString&)> ReadMember)
-{
-	while (Next() && Notation != EJsonNotation::ObjectEnd)
-	{
-		Member = Reader->GetIdentifier();
-		ReadMember(Member);
-		if (bBroken)
-		{
-			return;
-		}
-	}
-	Member.Reset();
-}
-
-bool FProjectJson::ReadNumbers(TArray<double>& Out)
-{
-	Out.Reset();
-	if (Notation != EJsonNotation::ArrayStart)
-	{
-		ReportExpected(TEXT("an array of centimetres"));
-		Skip();
-		return false;
-	}
-	bool bGood = true;
-	while (Next() && Notation != EJsonNotation::ArrayEnd)
-	{
-		const bool bNumber = Notation == EJsonNotation::Number && IsPlace(Reader->GetValueAsNumber());
-		if (bNumber)
-		{
-			Out.Add(Reader->GetValueAsNumber());
-		}
-		else if (bGood)
-		{
-			bGood = false;
-			ReportExpected(TEXT("centimetres from -100000000 to 100000000"));
-		}
-		Skip();
-	}
-	return bGood && !bBroken;
-}
-
-bool FProjectJson::ReadLocation(FVector& Out)
-{
-	if (!ReadNumbers(Numbers))
-	{
-		return false;
-	}
-	if (Numbers.Num() != 3)
-	{
-		Report(FString::Printf(TEXT("expected x, y and z, found %d numbers"), Numbers.Num()));
-		return false;
-	}
-	Out = FVector(Numbers[0], Numbers[1], Numbers[2]);
-	return true;
-}
-
-bool FProjectJson::IsPlace(double Coordinate) const
-{
-	return Coordinate >= -MaxCoordinate && Coordinate <= MaxCoordinate;
-}
-
-bool FProjectJson::ReadString(FString& Out)
-{
-	if (Notation != EJsonNotation::String)
-	{
-		ReportExpected(TEXT("a text"));
-		Skip();
-		return false;
-	}
-	Out = Reader->GetValueAsString();
-	int32 Place = 0;
-	if (Out.FindChar(ReplacementCharacter, Place))
-	{
-		Report(TEXT("the text has bytes that are no UTF-8"));
-	}
-	return true;
-}
-
-bool FProjectJson::ReadKey(FName& Out)
-{
-	FString Text;
-	if (!ReadString(Text))
-	{
-		return false;
-	}
-	Out = FName(*Text);
-	return true;
-}
-
-bool FProjectJson::Next()
-{
-	if (bBroken)
-	{
-		return false;
-	}
-	if (Reader->ReadNext(Notation) && Notation != EJsonNotation::Error)
-	{
-		return true;
-	}
-	if (!Reader->GetErrorMessage().IsEmpty())
-	{
-		Report(Reader->GetErrorMessage());
-		bBroken = true;
-	}
-	return false;
-}
-
-void FProjectJson::Skip()
-{
-	const bool bStart = Notation == EJsonNotation::ObjectStart || Notation == EJsonNotation::ArrayStart;
-	if (bStart && !(Notation == EJsonNotation::ObjectStart ? Reader->SkipObject() : Reader->SkipArray()))
-	{
-		Report(Reader->GetErrorMessage());
-		bBroken = true;
-	}
-}
-
-void FProjectJson::Report(const FString& What)
-{
-	FString Where = Section;
-	if (Index != INDEX_NONE)
-	{
-		Where += FString::Printf(TEXT("[%d]"), Index);
-	}
-	if (!Key.IsNone())
-	{
-		Where += TEXT(" (") + Key.ToString() + TEXT(")");
-	}
-	if (!Member.IsEmpty())
-	{
-		Where += (Where.IsEmpty() ? TEXT("") : TEXT(": ")) + Member;
-	}
-	Problems.Add(Reader->GetLineNumber(), Reader->GetCharacterNumber(), Where.IsEmpty() ? What : Where + TEXT(": ") + What);
-}
-
-void FProjectJson::ReportExpected(const TCHAR* Expected)
-{
-	Report(FString::Printf(TEXT("expected %s, found %s"), Expected, *DescribeValue()));
-}
-
-FString FProjectJson::DescribeValue() const
-{
-	switch (Notation)
-	{
-	case EJsonNotation::ObjectStart:
-		return TEXT("an object");
-	case EJsonNotation::ArrayStart:
-		return TEXT("an array");
-	case EJsonNotation::String:
-		return TEXT("\"") + Reader->GetValueAsString().Left(40) + TEXT("\"");
-	case EJsonNotation::Number:
-		return Reader->GetValueAsNumberString().Left(40);
-	case EJsonNotation::Boolean:
-		return Reader->GetValueAsBoolean() ? TEXT("true") : TEXT("false");
-	default:
-		return TEXT("null");
-	}
-}
-
-void FProjectJson::Refer(FName To, const TCHAR* Field, bool bGroup)
-{
-	if (!To.IsNone() && !(bGroup ? GroupIds : ImageIds).Contains(To))
-	{
-		OpenReferences.Add(FOpenReference{To, FString::Printf(TEXT("%s[%d] (%s): %s"), Section, Index, *Key.ToString(), Field), bGroup, Reader->GetLineNumber(), Reader->GetCharacterNumber()});
+		OpenReferences.Add(FOpenReference{To, DescribePlace() + TEXT(": ") + Member, Kind, Reader->GetLineNumber(), Reader->GetCharacterNumber()});
 	}
 }
 
 void FProjectJson::CheckReferences()
 {
+	static const TCHAR* const Names[] = { TEXT("group"), TEXT("image"), TEXT("interior"), TEXT("surface") };
+	static_assert(UE_ARRAY_COUNT(Names) == SIZE_T(EKind::Num));
 	for (const FOpenReference& Reference : OpenReferences)
 	{
-		if (!(Reference.bGroup ? GroupIds : ImageIds).Contains(Reference.Key))
+		// A catalogue may be for rooms that the project does not show.
+		const bool bNobodyHasAny = Reference.Kind == EKind::Surface && Project.Interiors.IsEmpty();
+		if (!bNobodyHasAny && !GetIds(Reference.Kind).Contains(Reference.Key))
 		{
 			Problems.Add(Reference.Line, Reference.Column, FString::Printf(TEXT("%s: there is no %s '%s'"),
-				*Reference.Field, Reference.bGroup ? TEXT("group") : TEXT("image"), *Reference.Key.ToString()));
+				*Reference.Field, Names[int32(Reference.Kind)], *Reference.Key.ToString()));
+		}
+	}
+}
+
+void FProjectJson::SpreadCurrency()
+{
+	const auto Spread = [this](FName& Currency)
+	{
+		if (Currency.IsNone())
+		{
+			Currency = Project.Currency;
+		}
+	};
+	for (FProjectUnit& Unit : Project.Units)
+	{
+		Spread(Unit.Data.Currency);
+	}
+	for (FCatalogueCategory& Category : Project.Catalogue.Categories)
+	{
+		for (FCatalogueSubCategory& SubCategory : Category.SubCategories)
+		{
+			for (FCatalogueVariant& Variant : SubCategory.Variants)
+			{
+				Spread(Variant.Product.Currency);
+			}
 		}
 	}
 }

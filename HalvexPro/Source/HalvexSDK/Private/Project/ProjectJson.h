@@ -1,13 +1,11 @@
 #pragma once
 
-#include "CoreMinimal.h"
 #include "Project/ProjectData.h"
-#include "Project/ReadProblems.h"
+#include "Project/ProjectJsonText.h"
 #include "Project/UnitRecordFields.h"
-#include "Serialization/JsonReader.h"
 
-/** One reading of a project's text, token by token. */
-class FProjectJson
+/** One reading of a project's text. */
+class FProjectJson : private FProjectJsonText
 {
 public:
 	FProjectJson(TConstArrayView<uint8> Bytes, FProjectData& InProject, FReadProblems& InProblems);
@@ -16,12 +14,23 @@ public:
 	bool Read();
 
 private:
-	/** A reference to an image or a group that had not been read yet when it was met. */
+	/** What others refer to by its key. */
+	enum class EKind : uint8
+	{
+		Group,
+		Image,
+		Interior,
+		/** Of an interior. */
+		Surface,
+		Num
+	};
+
+	/** A reference to what had not been read yet when it was met. */
 	struct FOpenReference
 	{
 		FName Key;
 		FString Field;
-		bool bGroup;
+		EKind Kind;
 		uint32 Line;
 		uint32 Column;
 	};
@@ -36,45 +45,33 @@ private:
 	void ReadImage();
 	void ReadSpot();
 
-	/** Calls ReadElement for each object of the array that comes next. */
-	void ReadObjects(const TCHAR* Name, TFunctionRef<void()> ReadElement);
-	/** Calls ReadMember for each member of the object whose start was read last. */
-	void ReadMembers(TFunctionRef<void(const FString&)> ReadMember);
-	/** Numbers of the array that comes next. False, with a problem, when it is none or holds anything else. */
-	bool ReadNumbers(TArray<double>& Out);
-	/** Coordinates in centimetres. */
-	bool IsPlace(double Coordinate) const;
-	bool ReadString(FString& Out);
-	bool ReadKey(FName& Out);
-	bool ReadLocation(FVector& Out);
+	void ReadInterior();
+	void ReadInteriorPart(FProjectInterior& Interior);
+	void ReadInteriorCamera(FInteriorCamera& OutCamera);
 
-	bool Next();
-	/** Goes behind the value whose first token was read last. */
-	void Skip();
-	void Report(const FString& What);
-	void ReportExpected(const TCHAR* Expected);
-	FString DescribeValue() const;
-	void Refer(FName Key, const TCHAR* Field, bool bGroup);
+	void ReadCatalogue();
+	void ReadCategory();
+	void ReadSubCategory(FCatalogueCategory& Category, TSet<FName>& SubCategoryIds);
+	void ReadProduct(FCatalogueSubCategory& SubCategory);
+	void ReadLook(FCatalogueVariant& Variant);
+
+	/** Reads a key of an image, which may come later. */
+	void ReadImageKey(FName& Out);
+	/** Whether the object that was read last has a key that none before had; with a problem when it has not. */
+	bool TakeKey(TSet<FName>& Taken, FName Id, const TCHAR* KindOfObject);
+	void Refer(FName Key, EKind Kind);
 	void CheckReferences();
+	/** Gives what names no currency that of the project. */
+	void SpreadCurrency();
 
-	TSharedRef<TJsonReader<UTF8CHAR>> Reader;
+	TSet<FName>& GetIds(EKind Kind) { return Ids[int32(Kind)]; }
+
 	FProjectData& Project;
-	FReadProblems& Problems;
-	EJsonNotation Notation = EJsonNotation::Null;
-	bool bBroken = false;
-
-	/** What is being read, for messages: "units[3] (N-101)". */
-	const TCHAR* Section = TEXT("");
-	int32 Index = INDEX_NONE;
-	FName Key;
-	/** The member being read; empty outside of one. */
-	FString Member;
-
 	FUnitRecordFields Fields;
 	TSet<FName> UnitIds;
-	TSet<FName> GroupIds;
-	TSet<FName> ImageIds;
+	TSet<FName> SpotIds;
+	TSet<FName> CategoryIds;
+	TSet<FName> ProductIds;
+	TSet<FName> Ids[int32(EKind::Num)];
 	TArray<FOpenReference> OpenReferences;
-	/** Used again for each volume. */
-	TArray<double> Numbers;
 };

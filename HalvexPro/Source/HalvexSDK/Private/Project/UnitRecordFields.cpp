@@ -6,13 +6,12 @@ namespace
 {
 	const TCHAR* const FieldNames[] =
 	{
-		TEXT("id"), TEXT("name"), TEXT("building"), TEXT("type"), TEXT("view"), TEXT("image"), TEXT("currency"), TEXT("level"), TEXT("rooms"),
+		TEXT("id"), TEXT("name"), TEXT("building"), TEXT("type"), TEXT("view"), TEXT("image"), TEXT("interior"), TEXT("currency"), TEXT("level"), TEXT("rooms"),
 		TEXT("baths"), TEXT("area"), TEXT("outdoorArea"), TEXT("price"), TEXT("orientation"), TEXT("status"), TEXT("volume"),
 	};
 	static_assert(UE_ARRAY_COUNT(FieldNames) == SIZE_T(EUnitRecordField::Num));
 
 	constexpr double MaxArea = 1e6;
-	constexpr double MaxPrice = 1e12;
 
 	bool SetWhole(int32& Out, double Number, double Minimum, double Maximum)
 	{
@@ -86,7 +85,7 @@ const TCHAR* FUnitRecordFields::SetNumber(FUnitData& Unit, EUnitRecordField Fiel
 	case EUnitRecordField::Price:
 		if (!(Number >= 0.0 && Number <= MaxPrice))
 		{
-			return TEXT("a price from 0 to 1000000000000");
+			return ExpectedPrice;
 		}
 		Unit.Price = Number;
 		return nullptr;
@@ -116,6 +115,9 @@ const TCHAR* FUnitRecordFields::SetText(FUnitData& Unit, EUnitRecordField Field,
 		return nullptr;
 	case EUnitRecordField::Image:
 		Unit.Image = FindName(Field, Text);
+		return nullptr;
+	case EUnitRecordField::Interior:
+		Unit.Interior = FindName(Field, Text);
 		return nullptr;
 	case EUnitRecordField::Currency:
 		Unit.Currency = FindName(Field, Text);

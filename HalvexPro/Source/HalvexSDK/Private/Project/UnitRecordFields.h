@@ -12,6 +12,7 @@ enum class EUnitRecordField : uint8
 	Type,
 	View,
 	Image,
+	Interior,
 	Currency,
 	Level,
 	Rooms,
@@ -30,6 +31,10 @@ enum class EUnitRecordField : uint8
 class FUnitRecordFields
 {
 public:
+	/** The highest price; the lowest is 0. */
+	static constexpr double MaxPrice = 1e12;
+	static constexpr const TCHAR* ExpectedPrice = TEXT("a price from 0 to 1000000000000");
+
 	/** The name of the field in project files, case sensitive. */
 	static const TCHAR* GetName(EUnitRecordField Field);
 

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Project/ConfiguratorCatalogue.h"
+#include "Project/ProjectInterior.h"
 #include "Records/UnitData.h"
 #include "Records/UnitVolumeShape.h"
 #include "ProjectData.generated.h"
@@ -112,6 +113,10 @@ struct HALVEXSDK_API FProjectData
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")
 	TArray<FProjectUnit> Units;
+
+	/** The rooms of its kinds of units. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")
+	TArray<FProjectInterior> Interiors;
 
 	/** What its units can be configured with. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")

@@ -14,6 +14,7 @@ enum class EUnitTableField : uint8
 	Type,
 	View,
 	Image,
+	Interior,
 	Currency,
 	Level,
 	Rooms,

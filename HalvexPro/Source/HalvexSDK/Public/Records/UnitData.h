@@ -59,6 +59,10 @@ struct HALVEXSDK_API FUnitData
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "UnitData")
 	FName Image;
 
+	/** Key of the project's interior that shows its rooms; none when it cannot be configured. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "UnitData")
+	FName Interior;
+
 	/** Currency of the price by its ISO 4217 code: "EUR". */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "UnitData")
 	FName Currency;
