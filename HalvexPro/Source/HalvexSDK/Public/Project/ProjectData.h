@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Project/ConfiguratorCatalogue.h"
 #include "Records/UnitData.h"
 #include "Records/UnitVolumeShape.h"
 #include "ProjectData.generated.h"
@@ -111,4 +112,8 @@ struct HALVEXSDK_API FProjectData
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")
 	TArray<FProjectUnit> Units;
+
+	/** What its units can be configured with. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")
+	FConfiguratorCatalogue Catalogue;
 };
