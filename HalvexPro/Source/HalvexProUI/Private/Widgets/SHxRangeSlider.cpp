@@ -146,11 +146,13 @@ FReply SHxRangeSlider::OnMouseButtonDown(const FGeometry& MyGeometry, const FPoi
 	{
 		return FReply::Unhandled();
 	}
-	if (Dragged != EGrip::None)
+	if (Dragged != EGrip::None && MouseEvent.GetPointerIndex() != DragPointer)
 	{
 		// A second finger.
 		return FReply::Handled();
 	}
+	// A press whose release never came is over too.
+	EndDrag();
 	const float Place = FVector2f(MyGeometry.AbsoluteToLocal(MouseEvent.GetScreenSpacePosition())).X;
 	const FHit Hit = FindHit(MyGeometry, Place);
 	if (Hit.Grip == EGrip::None)
