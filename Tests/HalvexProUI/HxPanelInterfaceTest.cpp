@@ -43,6 +43,16 @@ namespace
 		EXPECT_FALSE(CastChecked<UKitTestPanel>(Panel)->bPanelActive);
 	}
 
+	TEST_F(FHxPanelInterfaceTest, GraphAnswersAndAsksTheNativePanelToo)
+	{
+		Content.Write(TEXT("Further.widget.json"), R"({ "Parent": "/Script/HalvexProUITestTypes.KitTestPanel", "Variables": { "Calls": { "Type": "int", "Default": 0 } } })");
+		Content.Write(TEXT("Further.lua"), "function ActivatePanel(self) Super.ActivatePanel(self) self.Calls = self.Calls + 1 end");
+		UUserWidget* Panel = ShowPanel(TEXT("Further"));
+		IHxPanelInterface::Execute_ActivatePanel(Panel);
+		EXPECT_EQ(Read(*Panel, TEXT("Calls")), "1");
+		EXPECT_TRUE(CastChecked<UKitTestPanel>(Panel)->bPanelActive);
+	}
+
 	TEST_F(FHxPanelInterfaceTest, ScreenImplementsItByAGraphAlone)
 	{
 		Content.Write(TEXT("Alone.widget.json"), R"({ "Interfaces": ["/Script/HalvexProUI.HxPanelInterface"], "Variables": { "Calls": { "Type": "int", "Default": 0 } }, "Root": { "Class": "Spacer" } })");

@@ -67,6 +67,19 @@ namespace
 		ExpectRefused(TEXT("file:../Good.png"), TEXT("leads out of"));
 	}
 
+	TEST_F(FImageFileTest, FullAddressesMayLeadIntoFurtherFolders)
+	{
+		Settings->ImageFolder = Content.GetFolder() + TEXT("/Elsewhere");
+		const FString Address = TEXT("file://") + Content.GetFolder() + TEXT("/Rooms/Gro%C3%9Fes%20Bad.png");
+		ExpectRefused(Address, TEXT("leads out of"));
+		Settings->FurtherImageFolders = { Content.GetFolder() + TEXT("/Rooms/") };
+		EXPECT_EQ(GetWidth(Address), 16);
+		ExpectRefused(TEXT("file://") + Content.GetFolder() + TEXT("/Good.png"), TEXT("leads out of"));
+		ExpectRefused(TEXT("file://") + Content.GetFolder() + TEXT("/Rooms/../Good.png"), TEXT("leads out of"));
+		ExpectRefused(TEXT("file:Großes Bad.png"), TEXT("there is no such file"));
+		Settings->FurtherImageFolders.Empty();
+	}
+
 	TEST_F(FImageFileTest, NoAddressLeadsOutOfTheFolder)
 	{
 		for (const TCHAR* Address : { TEXT("file:../secret.png"), TEXT("file:Rooms/../../secret.png"), TEXT("file:%2e%2e/secret.png"), TEXT("file:..%2Fsecret.png"),

@@ -139,7 +139,7 @@ bool FViewer::ChooseStyle(const FString& StylePath)
 	UHalvexUISubsystem::Get()->RefreshSettingsReferences();
 	if (Project)
 	{
-		Project->RefreshColours();
+		Project->RefreshStyle();
 	}
 	return true;
 }

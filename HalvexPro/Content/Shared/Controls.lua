@@ -14,6 +14,21 @@ function StyleBarButton(Button)
 	Button.WidgetStyle = { Normal = Face(1), Hovered = Face(0.82), Pressed = Face(0.7), Disabled = Face(1) }
 end
 
+-- A round face of a colour, darker under the mouse; for the engine's button, which the keyboard focus can be given to.
+function StyleRoundButton(Button, Color, Radius)
+	local function Face(Light)
+		return Kit.RoundedBrush({ R = Light * Color.R, G = Light * Color.G, B = Light * Color.B, A = Color.A }, Radius)
+	end
+	Button:SetStyle({
+		Normal = Face(1),
+		Hovered = Face(0.7),
+		Pressed = Face(0.5),
+		Disabled = Face(1),
+		NormalPadding = Kit.Margin(0),
+		PressedPadding = Kit.Margin(0),
+	})
+end
+
 -- A box with a rounded outline, and a list that floats over the screen.
 function StyleComboBox(Box)
 	local Front = Kit.Color("Third")

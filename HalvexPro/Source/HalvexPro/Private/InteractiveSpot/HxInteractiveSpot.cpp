@@ -40,13 +40,18 @@ UUserWidget* AHxInteractiveSpot::GetISPWidget()
 	return Widget;
 }
 
-void AHxInteractiveSpot::Destroyed()
+void AHxInteractiveSpot::ReleaseISPWidget()
 {
 	if (Widget)
 	{
 		Widget->RemoveFromParent();
 		Widget = nullptr;
 	}
+}
+
+void AHxInteractiveSpot::Destroyed()
+{
+	ReleaseISPWidget();
 	Super::Destroyed();
 }
 

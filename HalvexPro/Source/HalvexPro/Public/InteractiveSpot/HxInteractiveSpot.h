@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "GameFramework/Actor.h"
+#include "Images/HalvexImageModels.h"
 #include "Project/ProjectData.h"
 #include "Templates/SubclassOf.h"
 #include "HxInteractiveSpot.generated.h"
@@ -26,6 +27,10 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "HxInteractiveSpot")
 	FProjectSpot SpotData;
 
+	/** The picture of the spot, ready to be downloaded; without an address when it has none. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "HxInteractiveSpot")
+	FImageObjectData Picture;
+
 	/** The widget that shows the spot; it may implement IHxISPWidgetInterface. None for a spot without one. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "HxInteractiveSpot")
 	TSubclassOf<UUserWidget> WidgetClass;
@@ -45,6 +50,9 @@ public:
 	/** The spot's widget, made when it is first asked for and told of its spot; null without a class. */
 	UFUNCTION(BlueprintCallable, Category = "HxInteractiveSpot")
 	UUserWidget* GetISPWidget();
+
+	/** Lets go of the widget; the next one that is asked for is made anew, in the style of then. */
+	void ReleaseISPWidget();
 
 	virtual void Destroyed() override;
 

@@ -98,9 +98,8 @@ namespace
 		return DecodePercent(Path, OutPath);
 	}
 
-	FString FindFolder()
+	FString FindFolder(const FString& Setting)
 	{
-		const FString& Setting = GetDefault<UHalvexImageSettings>()->ImageFolder;
 		FString Folder;
 		if (!FPackageName::TryConvertLongPackageNameToFilename(Setting, Folder))
 		{
@@ -196,8 +195,13 @@ bool HalvexImageAddress::ResolveFile(const FString& Address, FString& OutFilenam
 		return false;
 	}
 	FPaths::NormalizeFilename(Path);
-	const FString Folder = FindFolder();
+	const UHalvexImageSettings& Settings = *GetDefault<UHalvexImageSettings>();
+	FString Folder = FindFolder(Settings.ImageFolder);
 	const FString Filename = FPaths::ConvertRelativePathToFull(Folder, Path);
+	for (int32 Index = 0; !FPaths::IsUnderDirectory(Filename, Folder) && !FPaths::IsRelative(Path) && Index < Settings.FurtherImageFolders.Num(); ++Index)
+	{
+		Folder = FindFolder(Settings.FurtherImageFolders[Index]);
+	}
 	if (!FPaths::IsUnderDirectory(Filename, Folder))
 	{
 		OutReason = TEXT("the address leads out of the project's folder of images");

@@ -21,6 +21,7 @@ bool FProjectReader::LoadFolder(const FString& Folder, FProjectData& OutProject)
 		OutProject = FProjectData();
 		Problems.Add(0, 0, TEXT("the file cannot be read"));
 	}
+	OutProject.Source = FPaths::ConvertRelativePathToFull(Folder) / TEXT("");
 	Problems.Log();
 	return bRead;
 }

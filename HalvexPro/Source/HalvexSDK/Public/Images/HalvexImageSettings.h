@@ -21,6 +21,10 @@ public:
 	UPROPERTY(EditAnywhere, Config, Category = "Files")
 	FString ImageFolder = TEXT("/HalvexPro/");
 
+	/** Further folders, by full paths, for as long as the program runs: file addresses with a full path may lead into them too. */
+	UPROPERTY(Transient)
+	TArray<FString> FurtherImageFolders;
+
 	/** Pictures that are fetched at the same time; others wait for their turn. */
 	UPROPERTY(EditAnywhere, Config, Category = "Downloads", meta = (ClampMin = "1"))
 	int32 ParallelDownloads = 6;

@@ -98,6 +98,10 @@ struct HALVEXSDK_API FProjectData
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")
 	FString Description;
 
+	/** The folder that the project was read from, or the address of that folder, with "/" at its end; its pictures lie there. */
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Project")
+	FString Source;
+
 	/** Currency of the units that name none of their own. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Project")
 	FName Currency;

@@ -92,7 +92,7 @@ namespace Host
 			{
 				Self = Class->GetDefaultObject();
 			}
-			if (!Self->IsA(Function.GetOuterUClass()))
+			if (const UClass* Owner = Function.GetOuterUClass(); !Self->IsA(Owner) && !Self->GetClass()->ImplementsInterface(Owner))
 			{
 				return luaL_error(State, "%s is no function of %s (call it with a colon)", TCHAR_TO_UTF8(*Function.GetName()), TCHAR_TO_UTF8(*Self->GetClass()->GetName()));
 			}

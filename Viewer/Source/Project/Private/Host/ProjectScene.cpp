@@ -6,7 +6,9 @@
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Host/ProjectSurroundings.h"
+#include "Host/SpotSceneBinding.h"
 #include "Host/UnitSceneBinding.h"
+#include "Images/HalvexImageSettings.h"
 #include "Project/ProjectReader.h"
 #include "UnitVolumes/UnitVolumesManager.h"
 #include "Widgets/SWindow.h"
@@ -40,10 +42,20 @@ namespace Host
 			Camera.Finish();
 		});
 		GEngine->GameViewport->AddViewportWidgetContent(Viewport.ToSharedRef(), SSceneViewport::ViewportOrder);
+		if (!Project.Source.IsEmpty() && !Project.Source.Contains(TEXT("://")))
+		{
+			ImageFolder = Project.Source;
+			GetMutableDefault<UHalvexImageSettings>()->FurtherImageFolders.Add(ImageFolder);
+		}
+		Spots.Reset(NewObject<USpotSceneBinding>());
+		Spots->Bind(Project, Viewport.ToSharedRef());
+		Binding->OnClicked.AddUObject(Spots.Get(), &USpotSceneBinding::CloseAll);
 	}
 
 	FProjectScene::~FProjectScene()
 	{
+		GetMutableDefault<UHalvexImageSettings>()->FurtherImageFolders.RemoveSingle(ImageFolder);
+		Spots->Unbind();
 		GEngine->GameViewport->RemoveViewportWidgetContent(Viewport.ToSharedRef());
 		Binding->Unbind();
 		Manager->SpawnUnits(TArray<FProjectUnit>());
@@ -90,8 +102,9 @@ namespace Host
 		}
 	}
 
-	void FProjectScene::RefreshColours()
+	void FProjectScene::RefreshStyle()
 	{
 		Binding->RefreshColours();
+		Spots->RefreshStyle();
 	}
 }

@@ -148,6 +148,7 @@ void UUnitSceneBinding::Hovered(int32 Volume)
 
 void UUnitSceneBinding::Clicked(int32 Volume)
 {
+	OnClicked.Broadcast();
 	AUnitVolumesManager* const Bound = Manager.Get();
 	if (!Bound)
 	{

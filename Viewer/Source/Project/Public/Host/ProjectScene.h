@@ -6,11 +6,12 @@
 #include "UObject/StrongObjectPtr.h"
 
 class AUnitVolumesManager;
+class USpotSceneBinding;
 class UUnitSceneBinding;
 
 namespace Host
 {
-	/** A building project in the world of the running game, with a 3D view of its units under all screens. */
+	/** A building project in the world of the running game, with a 3D view of its units and spots under all screens. */
 	class FProjectScene
 	{
 	public:
@@ -21,7 +22,7 @@ namespace Host
 		static bool Load(const FString& Folder, FProjectData& OutProject);
 
 		/**
-		 * Puts the project's units into the world and shows them.
+		 * Puts the project's units and spots into the world and shows them. Pictures may come from the project's folder from now on.
 		 * @param WindowRenderer	as for SSceneViewport
 		 * @param AspectRatio	width of the window for a height of 1: the camera starts where it sees all units
 		 */
@@ -39,15 +40,19 @@ namespace Host
 		void FrameBesideScreens();
 
 		/** To be called when the style was changed. */
-		void RefreshColours();
+		void RefreshStyle();
 
 		AUnitVolumesManager& GetManager() const { return *Manager; }
 		SSceneViewport& GetViewport() const { return *Viewport; }
 		const UUnitSceneBinding& GetBinding() const { return *Binding; }
+		USpotSceneBinding& GetSpots() const { return *Spots; }
 
 	private:
 		TStrongObjectPtr<AUnitVolumesManager> Manager;
 		TStrongObjectPtr<UUnitSceneBinding> Binding;
+		TStrongObjectPtr<USpotSceneBinding> Spots;
+		/** Empty when the project was not read from a folder. */
+		FString ImageFolder;
 		TSharedPtr<SSceneViewport> Viewport;
 	};
 }

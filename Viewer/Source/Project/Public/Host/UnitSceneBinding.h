@@ -39,6 +39,9 @@ public:
 
 	const Host::FSceneContent& GetContent() const { return *Content; }
 
+	/** Called when there was a click into the view, on a unit or beside all of them. */
+	FSimpleMulticastDelegate OnClicked;
+
 private:
 	UFUNCTION()
 	void ReceivedUnitData(const TArray<FUnitData>& UnitData);

@@ -97,11 +97,22 @@ namespace Host
 		});
 	}
 
+	FBox2D SSceneViewport::GetFreeArea(const FVector2D& Size) const
+	{
+		return FBox2D(FVector2D(CoveredLeft, 0.0), FVector2D(FMath::Max(CoveredLeft, Size.X - CoveredRight), Size.Y));
+	}
+
+	bool SSceneViewport::IsInSight(const FVector& Place)
+	{
+		const FSceneView View = Camera.GetView();
+		return ((Place - View.Location) | View.Forward) > 0.0 && !RayCaster->IsBlocked(View.Location, Place);
+	}
+
 	ESceneSpot SSceneViewport::Locate(const FVector& Place, FVector2D& OutPosition)
 	{
 		const FSceneView View = Camera.GetView();
 		const FVector2D Size = GetViewSize();
-		if (!View.Project(Place, Size, OutPosition) || OutPosition.X < CoveredLeft || OutPosition.Y < 0.0 || OutPosition.X > Size.X - CoveredRight || OutPosition.Y > Size.Y)
+		if (!View.Project(Place, Size, OutPosition) || !GetFreeArea(Size).IsInsideOrOn(OutPosition))
 		{
 			return ESceneSpot::OutOfView;
 		}

@@ -6,6 +6,7 @@
 #include "Host/ScenePicture.h"
 #include "Host/SceneQualityVariables.h"
 #include "Host/SceneRayCaster.h"
+#include "Math/Box2D.h"
 #include "Widgets/SLeafWidget.h"
 
 namespace Host
@@ -68,6 +69,12 @@ namespace Host
 
 		/** Called when the camera moved or the content changed, for what follows places of the scene. */
 		FSimpleMulticastDelegate& OnViewChanged() { return ViewChanged; }
+
+		/** The part of a picture of that size that nothing covers at its sides, in local units; empty when all is covered. */
+		FBox2D GetFreeArea(const FVector2D& Size) const;
+
+		/** False when a place is behind the eye, or a solid volume stands before it. */
+		bool IsInSight(const FVector& Place);
 
 		/**
 		 * Where a place of the scene is seen.
