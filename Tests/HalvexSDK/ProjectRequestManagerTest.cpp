@@ -34,6 +34,10 @@ namespace
 		if (bCatalogue)
 		{
 			Project.Catalogue.Categories.AddDefaulted();
+			Project.Interiors.AddDefaulted_GetRef().InteriorId = TEXT("Flat");
+			Project.Units[0].Data.Interior = TEXT("Flat");
+			Project.Units[1].Data.Interior = TEXT("Flat");
+			Project.Units[2].Data.Interior = TEXT("Missing");
 		}
 		return Project;
 	}
@@ -214,5 +218,46 @@ namespace
 		EXPECT_FALSE(GetConfigurator(TEXT("North")).SetUnitTarget(TEXT("S1")));
 		EXPECT_EQ(ToStd(Listener->TakeUpdates()), "");
 		EXPECT_FALSE(GetProject().HasUnitGroupTarget());
+	}
+
+	TEST_F(FProjectRequestManagerTest, ConfiguratorOpensForATargetWithRoomsAndACatalogue)
+	{
+		Receive(MakeProject(true));
+		EXPECT_FALSE(GetProject().OpenConfigurator());
+		GetProject().SetConfiguratorTarget(TEXT("N2"));
+		EXPECT_FALSE(GetProject().OpenConfigurator());
+		GetProject().SetConfiguratorTarget(TEXT("N1"));
+		Listener->TakeUpdates();
+		EXPECT_TRUE(GetProject().CanConfigureTarget());
+		EXPECT_TRUE(GetProject().OpenConfigurator());
+		EXPECT_TRUE(GetProject().OpenConfigurator());
+		EXPECT_TRUE(GetProject().IsConfiguratorOpen());
+		EXPECT_EQ(ToStd(Listener->TakeUpdates()), "OpenConfigurator Added [N1]");
+		GetProject().CloseConfigurator();
+		GetProject().CloseConfigurator();
+		EXPECT_EQ(ToStd(Listener->TakeUpdates()), "OpenConfigurator Removed [N1]");
+	}
+
+	TEST_F(FProjectRequestManagerTest, WithoutACatalogueNothingCanBeConfigured)
+	{
+		FProjectData Project = MakeProject(true);
+		Project.Catalogue = FConfiguratorCatalogue();
+		Receive(Project);
+		GetProject().SetConfiguratorTarget(TEXT("N1"));
+		EXPECT_FALSE(GetProject().OpenConfigurator());
+	}
+
+	TEST_F(FProjectRequestManagerTest, ConfiguratorStaysOpenForAnotherUnitAndClosesWithoutOne)
+	{
+		Receive(MakeProject(true));
+		GetProject().SetConfiguratorTarget(TEXT("N1"));
+		GetProject().OpenConfigurator();
+		Listener->TakeUpdates();
+		GetProject().SetConfiguratorTarget(TEXT("S1"));
+		EXPECT_TRUE(GetProject().IsConfiguratorOpen());
+		EXPECT_EQ(ToStd(Listener->TakeUpdates()), "UnitGroupTarget Changed [S1], ConfiguratorTarget Changed [S1]");
+		GetProject().ClearUnitGroupTarget();
+		EXPECT_FALSE(GetProject().IsConfiguratorOpen());
+		EXPECT_EQ(ToStd(Listener->TakeUpdates()), "UnitGroupTarget Removed, OpenConfigurator Removed, ConfiguratorTarget Removed");
 	}
 }

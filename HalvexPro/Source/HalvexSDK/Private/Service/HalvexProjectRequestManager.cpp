@@ -62,6 +62,7 @@ void UHalvexProjectRequestManager::Exchange(UProjectWrapper& NewWrapper, bool bI
 	Announce(EUpdateRequestDataType::Catalogue, Before->HasCatalogue(), NewWrapper.HasCatalogue());
 	Announce(EUpdateRequestDataType::UnitGroupTarget, Before->HasUnitGroupTarget(), false);
 	Announce(EUpdateRequestDataType::ConfiguratorTarget, Before->HasConfiguratorTarget(), false);
+	Announce(EUpdateRequestDataType::OpenConfigurator, Before->IsConfiguratorOpen(), false);
 }
 
 void UHalvexProjectRequestManager::ReceivedProjectUpdate(EUpdateRequestDataType DataType, EUpdateRequestType UpdateRequestType)

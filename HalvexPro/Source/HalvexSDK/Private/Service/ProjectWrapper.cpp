@@ -77,12 +77,50 @@ bool UProjectWrapper::SetConfiguratorTarget(FName UnitId)
 	return false;
 }
 
+bool UProjectWrapper::CanConfigureTarget() const
+{
+	return HasCatalogue() && FindTargetInterior();
+}
+
+bool UProjectWrapper::OpenConfigurator()
+{
+	if (!CanConfigureTarget())
+	{
+		return false;
+	}
+	if (!bConfiguratorOpen)
+	{
+		bConfiguratorOpen = true;
+		OnUpdated.Broadcast(EUpdateRequestDataType::OpenConfigurator, EUpdateRequestType::Added);
+	}
+	return true;
+}
+
+void UProjectWrapper::CloseConfigurator()
+{
+	if (bConfiguratorOpen)
+	{
+		bConfiguratorOpen = false;
+		OnUpdated.Broadcast(EUpdateRequestDataType::OpenConfigurator, EUpdateRequestType::Removed);
+	}
+}
+
+const FProjectInterior* UProjectWrapper::FindTargetInterior() const
+{
+	if (!HasConfiguratorTarget())
+	{
+		return nullptr;
+	}
+	const FName Interior = UnitGroupTarget->GetConfiguratorWrapper()->GetConfiguratorUnitTarget().Interior;
+	return Interior.IsNone() ? nullptr : Project.Interiors.FindByPredicate([Interior](const FProjectInterior& Other) { return Other.InteriorId == Interior; });
+}
+
 void UProjectWrapper::ReceivedConfiguratorTarget(const UUnitGroupWrapper& UnitGroup, bool bWasThere)
 {
 	// Those of other groups are told when their group becomes the target.
 	if (&UnitGroup == UnitGroupTarget)
 	{
-		OnUpdated.Broadcast(EUpdateRequestDataType::ConfiguratorTarget, GetUpdateType(bWasThere, HasConfiguratorTarget()));
+		AnnounceConfiguratorTarget(bWasThere);
 	}
 }
 
@@ -104,10 +142,18 @@ void UProjectWrapper::ExchangeUnitGroupTarget(UUnitGroupWrapper* UnitGroup)
 	const bool bHadGroup = HasUnitGroupTarget();
 	const bool bHadUnit = HasConfiguratorTarget();
 	UnitGroupTarget = UnitGroup;
-	const bool bHasUnit = HasConfiguratorTarget();
 	OnUpdated.Broadcast(EUpdateRequestDataType::UnitGroupTarget, GetUpdateType(bHadGroup, UnitGroup != nullptr));
-	if (bHadUnit || bHasUnit)
+	if (bHadUnit || HasConfiguratorTarget())
 	{
-		OnUpdated.Broadcast(EUpdateRequestDataType::ConfiguratorTarget, GetUpdateType(bHadUnit, bHasUnit));
+		AnnounceConfiguratorTarget(bHadUnit);
 	}
+}
+
+void UProjectWrapper::AnnounceConfiguratorTarget(bool bWasThere)
+{
+	if (!CanConfigureTarget())
+	{
+		CloseConfigurator();
+	}
+	OnUpdated.Broadcast(EUpdateRequestDataType::ConfiguratorTarget, GetUpdateType(bWasThere, HasConfiguratorTarget()));
 }

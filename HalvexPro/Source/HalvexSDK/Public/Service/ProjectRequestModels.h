@@ -29,7 +29,9 @@ enum class EUpdateRequestDataType : uint8
 	/** The group of units that the user is busy with. */
 	UnitGroupTarget = 3,
 	/** The unit that the configurator is about. */
-	ConfiguratorTarget = 4
+	ConfiguratorTarget = 4,
+	/** Whether that unit is being configured: the configurator is open. */
+	OpenConfigurator = 5
 };
 
 /** What has become of it. */

@@ -63,6 +63,23 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "ProjectWrapper")
 	bool SetConfiguratorTarget(FName UnitId);
 
+	/** Whether the target of the configurator has rooms to show, and there is anything to choose. */
+	UFUNCTION(BlueprintCallable, Category = "ProjectWrapper")
+	bool CanConfigureTarget() const;
+
+	/** Opens the configurator for its target; it closes when that is there no longer. @return false, with nothing changed, when the target cannot be configured */
+	UFUNCTION(BlueprintCallable, Category = "ProjectWrapper")
+	bool OpenConfigurator();
+
+	UFUNCTION(BlueprintCallable, Category = "ProjectWrapper")
+	void CloseConfigurator();
+
+	UFUNCTION(BlueprintCallable, Category = "ProjectWrapper")
+	bool IsConfiguratorOpen() const { return bConfiguratorOpen; }
+
+	/** The interior of the configurator's target; null when it has none. */
+	const FProjectInterior* FindTargetInterior() const;
+
 	/** For the configurator of a group: its target has changed. */
 	void ReceivedConfiguratorTarget(const UUnitGroupWrapper& UnitGroup, bool bWasThere);
 
@@ -71,6 +88,7 @@ public:
 
 private:
 	void ExchangeUnitGroupTarget(UUnitGroupWrapper* UnitGroup);
+	void AnnounceConfiguratorTarget(bool bWasThere);
 
 	UPROPERTY()
 	FProjectData Project;
@@ -80,4 +98,6 @@ private:
 
 	UPROPERTY()
 	TObjectPtr<UUnitGroupWrapper> UnitGroupTarget;
+
+	bool bConfiguratorOpen = false;
 };
