@@ -1,7 +1,7 @@
 # Third-party libraries. Each is wrapped in one module, which names it in its LIBRARIES.
 find_package(PkgConfig REQUIRED)
 foreach(Library IN ITEMS
-        freetype2 harfbuzz icu-uc icu-i18n sdl2 epoxy egl libpng libjpeg libwebp libcurl libsecret-1 lua5.4-c++)
+        freetype2 harfbuzz icu-uc icu-i18n sdl2 epoxy egl libpng libjpeg libwebp libcurl libsecret-1 libsodium libmicrohttpd lua5.4-c++)
     string(MAKE_C_IDENTIFIER "${Library}" Id)
     pkg_check_modules(${Id} REQUIRED IMPORTED_TARGET ${Library})
     add_library(Library::${Library} ALIAS PkgConfig::${Id})

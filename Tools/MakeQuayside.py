@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the sample project "Quayside": three buildings at a quay, with their units, plans, pictures and spots.
+"""Writes the sample project "Quayside": three buildings at a quay, with their units, plans, pictures, spots and portraits.
 
     Tools/MakeQuayside.py                                    writes Viewer/Projects/Quayside
     Tools/MakeQuayside.py --check                            fails when the project there is not what this writes
@@ -16,6 +16,7 @@ import random
 import shutil
 
 from QuaysidePictures import draw_building, draw_plan
+from QuaysidePortraits import draw_portrait
 
 STOREY = 310
 GROUND_STOREY = 420
@@ -270,6 +271,9 @@ def draw_pictures(folder, town):
         (pictures / (key + ".png")).write_bytes(draw_plan(list(zip(values[::2], values[1::2])), unit["rooms"], unit["orientation"]))
     for key, _ in GROUPS:
         (pictures / ("view-%s.png" % key)).write_bytes(draw_building([unit for unit in town.units if unit["building"] == key]))
+    portraits = folder / "Portraits"
+    portraits.mkdir(exist_ok=True)
+    (portraits / "mara-lind.png").write_bytes(draw_portrait((206, 222, 232), (52, 84, 118), (232, 190, 162), (96, 58, 40)))
 
 
 def make_quayside():

@@ -2,6 +2,7 @@
 
 #include "Host/StoredValues.h"
 
+#include <atomic>
 #include <memory>
 
 namespace Host
@@ -27,6 +28,7 @@ namespace Host
 		ESecretAnswer Ask(const std::shared_ptr<FSecretCall>& Call);
 
 		const double MaxSeconds;
-		bool bTooSlow = false;
+		/** Calls may come from several threads. */
+		std::atomic<bool> bTooSlow = false;
 	};
 }

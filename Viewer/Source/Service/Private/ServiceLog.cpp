@@ -1,0 +1,3 @@
+#include "ServiceLog.h"
+
+DEFINE_LOG_CATEGORY(LogService);
