@@ -94,4 +94,37 @@ namespace
 		EXPECT_EQ(UHalvexImageSubsystem::Get()->GetNumTransfers(), 0);
 		Loop.RunUntilIdle();
 	}
+
+	TEST_F(FImageSolverTest, DelegateGetsTheTexturesThatArrivedInTheirOrderOnce)
+	{
+		Server.Serve("/a.png", Picture(8, 8));
+		Server.Serve("/c.png", Picture(16, 8));
+		const FExpectedLog Refused(TEXT("/b.png is not shown"));
+		TArray<int32> Widths;
+		int32 NumCalls = 0;
+		UImageSolver::CreateImagesSolver()->RunImageSolverWithDelegate({ OnServer("/a.png"), OnServer("/b.png"), OnServer("/c.png") }, EIRS_Small,
+			FImagesSolvedDelegate::CreateLambda([&](const TArray<UTexture2D*>& Textures)
+			{
+				++NumCalls;
+				for (const UTexture2D* Texture : Textures)
+				{
+					Widths.Add(Texture->GetSizeX());
+				}
+			}));
+		EXPECT_EQ(NumCalls, 0);
+		ASSERT_TRUE(Host::WaitUntil(Loop, [&] { return NumCalls > 0; }));
+		Loop.RunUntilIdle();
+		EXPECT_EQ(NumCalls, 1);
+		EXPECT_EQ(Widths, (TArray<int32>{ 8, 16 }));
+	}
+
+	TEST_F(FImageSolverTest, DelegateGetsNothingWhenAllFail)
+	{
+		const FExpectedLog Refused(TEXT("/b.png is not shown"));
+		int32 NumTextures = INDEX_NONE;
+		UImageSolver::CreateImagesSolver()->RunImageSolverWithDelegate({ OnServer("/b.png") }, EIRS_Small,
+			FImagesSolvedDelegate::CreateLambda([&](const TArray<UTexture2D*>& Textures) { NumTextures = Textures.Num(); }));
+		ASSERT_TRUE(Host::WaitUntil(Loop, [&] { return NumTextures != INDEX_NONE; }));
+		EXPECT_EQ(NumTextures, 0);
+	}
 }

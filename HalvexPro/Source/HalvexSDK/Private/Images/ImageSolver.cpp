@@ -7,12 +7,33 @@
 
 UImageSolver* UImageSolver::SolveImages(const TArray<FImageObjectData>& ImageObjectData, TEnumAsByte<EImageRequestSize> SizeImage)
 {
-	UImageSolver* Solver = NewObject<UImageSolver>();
+	UImageSolver* Solver = CreateImagesSolver();
+	Solver->SetImages(ImageObjectData, SizeImage);
+	return Solver;
+}
+
+UImageSolver* UImageSolver::CreateImagesSolver()
+{
+	return NewObject<UImageSolver>();
+}
+
+void UImageSolver::RunImageSolverWithDelegate(const TArray<FImageObjectData>& ImageObjectData, TEnumAsByte<EImageRequestSize> SizeImage, const FImagesSolvedDelegate& Solved)
+{
+	if (!IsRunning())
+	{
+		SetImages(ImageObjectData, SizeImage);
+		OnSolved = Solved;
+		Activate();
+	}
+}
+
+void UImageSolver::SetImages(const TArray<FImageObjectData>& ImageObjectData, TEnumAsByte<EImageRequestSize> SizeImage)
+{
+	Downloaders.Reset();
 	for (const FImageObjectData& Data : ImageObjectData)
 	{
-		Solver->Downloaders.Add(UHalvexImageDownloader::DownloadImage(Data, SizeImage));
+		Downloaders.Add(UHalvexImageDownloader::DownloadImage(Data, SizeImage));
 	}
-	return Solver;
 }
 
 void UImageSolver::Activate()
@@ -51,7 +72,7 @@ void UImageSolver::Cancel()
 
 bool UImageSolver::HasListeners() const
 {
-	return OnImageSolved.IsBound() || OnProgress.IsBound() || OnFinished.IsBound();
+	return OnImageSolved.IsBound() || OnProgress.IsBound() || OnFinished.IsBound() || OnSolved.IsBound();
 }
 
 void UImageSolver::ReceiveImage(const FHalvexDownloadedImage& Image, const int32 Index)
@@ -75,5 +96,14 @@ bool UImageSolver::FinishEmpty(float)
 void UImageSolver::Finish()
 {
 	EndRun();
+	TArray<UTexture2D*> Textures;
+	for (const FHalvexDownloadedImage& Result : Results)
+	{
+		if (Result.Texture)
+		{
+			Textures.Add(Result.Texture);
+		}
+	}
+	OnSolved.ExecuteIfBound(Textures);
 	OnFinished.Broadcast(Results);
 }

@@ -6,10 +6,12 @@
 #include "ImageSolver.generated.h"
 
 class UHalvexImageDownloader;
+class UTexture2D;
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FImageSolvedEvent, int32, Index, FHalvexDownloadedImage, DownloadedImage);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FImageSolverProgressEvent, int32, NumDone, int32, NumImages);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FImageSolverFinishedEvent, const TArray<FHalvexDownloadedImage>&, DownloadedImages);
+DECLARE_DELEGATE_OneParam(FImagesSolvedDelegate, const TArray<UTexture2D*>& /*Textures*/);
 
 /** Downloads several pictures and tells when all have ended, well or not. */
 UCLASS()
@@ -38,6 +40,15 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "HalvexImage", meta = (BlueprintInternalUseOnly = "true"))
 	static UImageSolver* SolveImages(const TArray<FImageObjectData>& ImageObjectData, TEnumAsByte<EImageRequestSize> SizeImage);
 
+	/** Makes a download that RunImageSolverWithDelegate tells its pictures. */
+	static UImageSolver* CreateImagesSolver();
+
+	/**
+	 * Begins a download of several pictures.
+	 * @param Solved	called once, with the textures that arrived in the order in which they were asked for; without any when all failed
+	 */
+	void RunImageSolverWithDelegate(const TArray<FImageObjectData>& ImageObjectData, TEnumAsByte<EImageRequestSize> SizeImage, const FImagesSolvedDelegate& Solved);
+
 	/** Begins the downloads. */
 	virtual void Activate() override;
 
@@ -52,6 +63,7 @@ protected:
 	virtual bool HasListeners() const override;
 
 private:
+	void SetImages(const TArray<FImageObjectData>& ImageObjectData, TEnumAsByte<EImageRequestSize> SizeImage);
 	void ReceiveImage(const FHalvexDownloadedImage& Image, int32 Index);
 	bool FinishEmpty(float DeltaSeconds);
 	void Finish();
@@ -62,5 +74,6 @@ private:
 	UPROPERTY()
 	TArray<FHalvexDownloadedImage> Results;
 
+	FImagesSolvedDelegate OnSolved;
 	int32 NumDone = 0;
 };

@@ -1,0 +1,6 @@
+#include "Service/HalvexServiceSettings.h"
+
+UHalvexServiceSettings::UHalvexServiceSettings()
+{
+	CategoryName = TEXT("Plugins");
+}
