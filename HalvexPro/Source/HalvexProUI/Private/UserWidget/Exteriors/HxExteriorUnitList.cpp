@@ -13,9 +13,11 @@
 
 namespace
 {
-	FUnitData GetDataOf(const UHxExteriorUnitListObject& Item)
+	/** Asked for with every comparison, for a graph that compares may change units; without a copy, for there are many. */
+	const FUnitData& GetDataOf(const UHxExteriorUnitListObject& Item)
 	{
-		return Item.UnitVolumeActorRef ? Item.UnitVolumeActorRef->GetUnitVolumeSceneData() : FUnitData();
+		static const FUnitData NoUnit;
+		return Item.UnitVolumeActorRef ? Item.UnitVolumeActorRef->GetUnitData() : NoUnit;
 	}
 
 	bool IsItemOf(const UObject* Item, const AUnitVolumeActor* UnitVolume)
