@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the sample project "Quayside": three buildings at a quay, with their units, plans, pictures, spots and portraits.
+"""Writes the sample project "Quayside": three buildings at a quay, with their units, plans, pictures, spots, rooms, catalogue and
+portraits.
 
     Tools/MakeQuayside.py                                    writes Viewer/Projects/Quayside
     Tools/MakeQuayside.py --check                            fails when the project there is not what this writes
@@ -15,8 +16,11 @@ import pathlib
 import random
 import shutil
 
+from QuaysideCatalogue import CATALOGUE, image_key, make_catalogue, make_images, subcategories
+from QuaysideInteriors import interior_of, make_interiors
 from QuaysidePictures import draw_building, draw_plan
 from QuaysidePortraits import draw_portrait
+from QuaysideProducts import draw_category, draw_product
 
 STOREY = 310
 GROUND_STOREY = 420
@@ -241,17 +245,44 @@ SPOTS = [
 ]
 
 
+def compact(value):
+    return json.dumps(value, ensure_ascii=False, separators=(",", ":"))
+
+
+def row_lines(rows, indent):
+    return ",\n".join(indent + compact(row) for row in rows)
+
+
+def interior_text(interior):
+    """One part a line."""
+    head = compact({key: interior[key] for key in ("id", "name", "camera")})
+    return "\t\t%s,\"parts\":[\n%s\n\t\t]}" % (head[:-1], row_lines(interior["parts"], "\t\t\t"))
+
+
+def category_text(category):
+    """One product a line."""
+    subs = []
+    for sub in category["subCategories"]:
+        head = compact({key: sub[key] for key in ("id", "name", "image", "default")})
+        subs.append("\t\t\t%s,\"products\":[\n%s\n\t\t\t]}" % (head[:-1], row_lines(sub["products"], "\t\t\t\t")))
+    head = compact({key: category[key] for key in ("id", "name", "image")})
+    return "\t\t%s,\"subCategories\":[\n%s\n\t\t]}" % (head[:-1], ",\n".join(subs))
+
+
 def project_text(project):
-    """One unit a line: short, and a change of one unit is a change of one line."""
-    lines = ["{"]
-    for key in ("format", "id", "name", "description", "currency"):
-        lines.append("\t%s: %s," % (json.dumps(key), json.dumps(project[key], ensure_ascii=False)))
-    sections = [key for key in ("groups", "images", "spots", "units") if project.get(key)]
-    for section in sections:
-        rows = [json.dumps(row, ensure_ascii=False, separators=(",", ":")) for row in project[section]]
-        lines.append("\t%s: [\n\t\t%s\n\t]%s" % (json.dumps(section), ",\n\t\t".join(rows), "" if section == sections[-1] else ","))
-    lines.append("}")
-    return "\n".join(lines) + "\n"
+    """One unit, part or product a line: short, and a change of one is a change of one line."""
+    members = ["\t%s: %s" % (json.dumps(key), json.dumps(project[key], ensure_ascii=False)) for key in ("format", "id", "name", "description", "currency")]
+    for section in ("groups", "images", "spots", "interiors", "catalogue", "units"):
+        if not project.get(section):
+            continue
+        if section == "interiors":
+            text = "[\n%s\n\t]" % ",\n".join(interior_text(interior) for interior in project[section])
+        elif section == "catalogue":
+            text = "{\"categories\":[\n%s\n\t]}" % ",\n".join(category_text(category) for category in project[section]["categories"])
+        else:
+            text = "[\n%s\n\t]" % row_lines(project[section], "\t\t")
+        members.append("\t%s: %s" % (json.dumps(section), text))
+    return "{\n%s\n}\n" % ",\n".join(members)
 
 
 def write_project(folder, project):
@@ -276,13 +307,29 @@ def draw_pictures(folder, town):
     (portraits / "mara-lind.png").write_bytes(draw_portrait((206, 222, 232), (52, 84, 118), (232, 190, 162), (96, 58, 40)))
 
 
+def draw_catalogue(folder):
+    pictures = folder / "Catalogue"
+    shutil.rmtree(pictures, ignore_errors=True)
+    pictures.mkdir(parents=True)
+    for key, _, _ in CATALOGUE:
+        (pictures / (image_key(key) + ".png")).write_bytes(draw_category(key))
+    for category, (sub, _, _, how, products) in subcategories():
+        for product, _, _, _, colours, _, kind, _ in products:
+            key = image_key(category, sub, product)
+            (pictures / (key + ".png")).write_bytes(draw_product(key, how, colours, kind))
+
+
 def make_quayside():
     town = Town(1887)
     build_harbour_house(town)
     build_lantern_tower(town)
     build_wharf_terraces(town)
     titles = list(PLAN_TITLES.items()) + [("view-" + key, title) for key, title in GROUPS]
-    images = [{"id": key, "address": "Pictures/%s.png" % key, "title": title} for key, title in titles]
+    images = [{"id": key, "address": "Pictures/%s.png" % key, "title": title} for key, title in titles] + make_images()
+    for unit in town.units:
+        interior = interior_of(unit)
+        if interior:
+            unit["interior"] = interior
     spots = []
     for key, title, description, image, location in SPOTS:
         spot = {"id": key, "title": title, "description": description, "location": list(location)}
@@ -298,6 +345,8 @@ def make_quayside():
         "groups": [{"id": key, "name": title, "image": "view-" + key} for key, title in GROUPS],
         "images": images,
         "spots": spots,
+        "interiors": make_interiors(),
+        "catalogue": make_catalogue(),
         "units": town.units,
     }
 
@@ -346,6 +395,7 @@ def main():
         return
     write_project(folder, project)
     draw_pictures(folder, town)
+    draw_catalogue(folder)
     print(len(town.units), "units")
 
 

@@ -30,6 +30,18 @@ namespace
 	}
 	BENCHMARK(ReadProject)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
 
+	/** The sample project's file, with its rooms and its catalogue, to its records. */
+	void ReadSample(benchmark::State& State)
+	{
+		for (auto _ : State)
+		{
+			FProjectData Project;
+			verify(FProjectReader::LoadFolder(TEXT(HALVEX_SOURCE_DIR "/Viewer/Projects/Quayside"), Project));
+			benchmark::DoNotOptimize(Project.Catalogue.Categories.GetData());
+		}
+	}
+	BENCHMARK(ReadSample)->Unit(benchmark::kMillisecond);
+
 	/** A sales list to units. */
 	void ReadTable(benchmark::State& State)
 	{

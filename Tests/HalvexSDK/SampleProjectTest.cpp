@@ -61,7 +61,7 @@ namespace
 
 	TEST_F(FSampleProjectTest, PicturesAreThere)
 	{
-		EXPECT_EQ(Project.Images.Num(), 12);
+		EXPECT_EQ(Project.Images.Num(), 88);
 		for (const FProjectImage& Image : Project.Images)
 		{
 			EXPECT_TRUE(FPaths::FileExists(Folder / Image.Address)) << ToStd(Image.Address);
@@ -94,6 +94,52 @@ namespace
 		{
 			EXPECT_NEAR(Unit.Data.Area, Unit.Volume.GetGroundArea() * 0.86 / 1e4, 0.06) << ToStd(Unit.Data.UnitId);
 			EXPECT_TRUE(Unit.Data.Price > 0.0 || Unit.Data.Status == EUnitStatus::NotForSale);
+		}
+	}
+
+	TEST_F(FSampleProjectTest, CatalogueIsLargeAndEachOfItHasAPicture)
+	{
+		int32 NumSubCategories = 0;
+		int32 NumProducts = 0;
+		for (const FCatalogueCategory& Category : Project.Catalogue.Categories)
+		{
+			EXPECT_FALSE(Category.Image.IsNone() || Category.Name.IsEmpty());
+			NumSubCategories += Category.SubCategories.Num();
+			for (const FCatalogueSubCategory& SubCategory : Category.SubCategories)
+			{
+				EXPECT_FALSE(SubCategory.Image.IsNone() || SubCategory.Name.IsEmpty() || SubCategory.DefaultProduct.IsNone());
+				NumProducts += SubCategory.Variants.Num();
+				for (const FCatalogueVariant& Variant : SubCategory.Variants)
+				{
+					const FHalvexConfigProduct& Product = Variant.Product;
+					EXPECT_FALSE(Product.Image.IsNone() || Product.Name.IsEmpty() || Product.Maker.IsEmpty() || Product.Description.IsEmpty()) << ToStd(Product.ProductKey);
+					EXPECT_FALSE(Variant.Looks.IsEmpty()) << ToStd(Product.ProductKey);
+				}
+			}
+		}
+		EXPECT_EQ(Project.Catalogue.Categories.Num(), 5);
+		EXPECT_EQ(NumSubCategories, 17);
+		EXPECT_EQ(NumProducts, 71);
+	}
+
+	TEST_F(FSampleProjectTest, EveryHomeHasRoomsAndProductsShowInAllOfThem)
+	{
+		EXPECT_EQ(Project.Interiors.Num(), 4);
+		for (const FProjectUnit& Unit : Project.Units)
+		{
+			EXPECT_EQ(Unit.Data.Interior.IsNone(), Unit.Data.Type == FName(TEXT("Lobby"))) << ToStd(Unit.Data.UnitId);
+		}
+		for (const FProjectInterior& Interior : Project.Interiors)
+		{
+			for (const FCatalogueCategory& Category : Project.Catalogue.Categories)
+			{
+				for (const FCatalogueSubCategory& SubCategory : Category.SubCategories)
+				{
+					const FName Surface = SubCategory.Variants[0].Looks[0].Surface;
+					const auto HasSurface = [Surface](const FInteriorPart& Part) { return Part.Surface == Surface; };
+					EXPECT_TRUE(Interior.Parts.ContainsByPredicate(HasSurface)) << ToStd(Interior.InteriorId) << " " << ToStd(Surface);
+				}
+			}
 		}
 	}
 }

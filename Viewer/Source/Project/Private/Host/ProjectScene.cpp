@@ -5,6 +5,7 @@
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Host/ConfiguratorSceneBinding.h"
 #include "Host/ProjectSurroundings.h"
 #include "Host/SpotSceneBinding.h"
 #include "Host/UnitSceneBinding.h"
@@ -17,6 +18,48 @@ DEFINE_LOG_CATEGORY_STATIC(LogProjectScene, Log, All);
 
 namespace Host
 {
+	namespace
+	{
+		/**
+		 * Tells a viewport what covers its sides.
+		 * @return false when it is covered wholly, or not laid out
+		 */
+		bool FindCoveredSides(const TSharedRef<SSceneViewport>& Viewport)
+		{
+			const FGeometry& Geometry = Viewport->GetCachedGeometry();
+			const FVector2D Size(Geometry.GetLocalSize());
+			const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Viewport);
+			if (!Window || Size.X <= 0.0 || Size.Y <= 0.0)
+			{
+				return false;
+			}
+			// Free is where the pointer would reach the scene: between the first and the last such place at half the height.
+			const auto IsFree = [&](double X)
+			{
+				const FVector2D Place(Geometry.LocalToAbsolute(FVector2D(X, 0.5 * Size.Y)));
+				const FWidgetPath Path = FSlateApplication::Get().LocateWindowUnderMouse(Place, { Window.ToSharedRef() });
+				return Path.IsValid() && Path.GetLastWidget() == Viewport;
+			};
+			constexpr double Step = 4.0;
+			double Left = 0.0;
+			while (Left < Size.X && !IsFree(Left + 0.5 * Step))
+			{
+				Left += Step;
+			}
+			double Right = 0.0;
+			while (Left + Right < Size.X && !IsFree(Size.X - Right - 0.5 * Step))
+			{
+				Right += Step;
+			}
+			if (Left + Right >= Size.X)
+			{
+				return false;
+			}
+			Viewport->SetCoveredSides(Left, Right);
+			return true;
+		}
+	}
+
 	bool FProjectScene::Load(const FString& Folder, FProjectData& OutProject)
 	{
 		const bool bRead = FProjectReader::LoadFolder(Folder, OutProject);
@@ -50,11 +93,15 @@ namespace Host
 		Spots.Reset(NewObject<USpotSceneBinding>());
 		Spots->Bind(Project, Viewport.ToSharedRef());
 		Binding->OnClicked.AddUObject(Spots.Get(), &USpotSceneBinding::CloseAll);
+		Configurator.Reset(NewObject<UConfiguratorSceneBinding>());
+		Configurator->OnRoomsShown.AddRaw(this, &FProjectScene::ReceivedRooms);
+		Configurator->Bind(Project, *Manager, WindowRenderer);
 	}
 
 	FProjectScene::~FProjectScene()
 	{
 		GetMutableDefault<UHalvexImageSettings>()->FurtherImageFolders.RemoveSingle(ImageFolder);
+		Configurator->Unbind();
 		Spots->Unbind();
 		GEngine->GameViewport->RemoveViewportWidgetContent(Viewport.ToSharedRef());
 		Binding->Unbind();
@@ -69,37 +116,22 @@ namespace Host
 
 	void FProjectScene::FrameBesideScreens()
 	{
-		const FGeometry& Geometry = Viewport->GetCachedGeometry();
-		const FVector2D Size(Geometry.GetLocalSize());
-		const TSharedPtr<SWindow> Window = FSlateApplication::Get().FindWidgetWindow(Viewport.ToSharedRef());
-		if (!Window || Size.X <= 0.0 || Size.Y <= 0.0)
+		if (const TSharedPtr<SSceneViewport> Rooms = Configurator->GetViewport())
 		{
-			return;
+			FindCoveredSides(Rooms.ToSharedRef());
+			Configurator->FrameRooms();
 		}
-		// Free is where the pointer would reach the scene: between the first and the last such place at half the height.
-		const auto IsFree = [&](double X)
+		else if (FindCoveredSides(Viewport.ToSharedRef()))
 		{
-			const FVector2D Place(Geometry.LocalToAbsolute(FVector2D(X, 0.5 * Size.Y)));
-			const FWidgetPath Path = FSlateApplication::Get().LocateWindowUnderMouse(Place, { Window.ToSharedRef() });
-			return Path.IsValid() && &Path.GetLastWidget().Get() == Viewport.Get();
-		};
-		constexpr double Step = 4.0;
-		double Left = 0.0;
-		while (Left < Size.X && !IsFree(Left + 0.5 * Step))
-		{
-			Left += Step;
-		}
-		double Right = 0.0;
-		while (Left + Right < Size.X && !IsFree(Size.X - Right - 0.5 * Step))
-		{
-			Right += Step;
-		}
-		if (Left + Right < Size.X)
-		{
-			Viewport->SetCoveredSides(Left, Right);
 			Viewport->FrameAll();
 			Viewport->MoveCamera([](FSceneCamera& Camera) { Camera.Finish(); });
 		}
+	}
+
+	void FProjectScene::ReceivedRooms(bool bShown)
+	{
+		Viewport->SetVisibility(bShown ? EVisibility::Collapsed : EVisibility::Visible);
+		Spots->SetShown(!bShown);
 	}
 
 	void FProjectScene::RefreshStyle()

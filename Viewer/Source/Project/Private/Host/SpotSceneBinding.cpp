@@ -69,6 +69,23 @@ void USpotSceneBinding::CloseAll()
 	}
 }
 
+void USpotSceneBinding::SetShown(bool bShown)
+{
+	if (bShown == Panel.IsValid() || Spots.IsEmpty())
+	{
+		return;
+	}
+	if (bShown)
+	{
+		ShowWidgets();
+	}
+	else
+	{
+		CloseAll();
+		HideWidgets();
+	}
+}
+
 void USpotSceneBinding::ReceivedSelection(AHxInteractiveSpot* Spot, bool bSelected)
 {
 	const int32 Index = Spots.IndexOfByKey(Spot);

@@ -6,12 +6,13 @@
 #include "UObject/StrongObjectPtr.h"
 
 class AUnitVolumesManager;
+class UConfiguratorSceneBinding;
 class USpotSceneBinding;
 class UUnitSceneBinding;
 
 namespace Host
 {
-	/** A building project in the world of the running game, with a 3D view of its units and spots under all screens. */
+	/** A building project in the world of the running game, with a 3D view of its units and spots, or of rooms, under all screens. */
 	class FProjectScene
 	{
 	public:
@@ -36,7 +37,7 @@ namespace Host
 		/** Tells screens that came after the units of them. */
 		void AnnounceUnits();
 
-		/** Shows all units in what the screens over the scene leave free at its sides, as they were painted last. */
+		/** Shows all units, or all of the rooms, in what the screens over the scene leave free at its sides, as they were painted last. */
 		void FrameBesideScreens();
 
 		/** To be called when the style was changed. */
@@ -46,11 +47,15 @@ namespace Host
 		SSceneViewport& GetViewport() const { return *Viewport; }
 		const UUnitSceneBinding& GetBinding() const { return *Binding; }
 		USpotSceneBinding& GetSpots() const { return *Spots; }
+		UConfiguratorSceneBinding& GetConfigurator() const { return *Configurator; }
 
 	private:
+		void ReceivedRooms(bool bShown);
+
 		TStrongObjectPtr<AUnitVolumesManager> Manager;
 		TStrongObjectPtr<UUnitSceneBinding> Binding;
 		TStrongObjectPtr<USpotSceneBinding> Spots;
+		TStrongObjectPtr<UConfiguratorSceneBinding> Configurator;
 		/** Empty when the project was not read from a folder. */
 		FString ImageFolder;
 		TSharedPtr<SSceneViewport> Viewport;

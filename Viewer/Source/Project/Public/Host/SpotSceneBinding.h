@@ -39,6 +39,9 @@ public:
 	/** Unselects the spot that is selected. */
 	void CloseAll();
 
+	/** Spots that are not shown are closed. */
+	void SetShown(bool bShown);
+
 	const TArray<TObjectPtr<AHxInteractiveSpot>>& GetSpots() const { return Spots; }
 	/** Null when there are no spots. */
 	Host::SSceneSpots* GetPanel() const { return Panel.Get(); }
