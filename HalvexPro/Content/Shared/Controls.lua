@@ -14,6 +14,12 @@ function StyleBarButton(Button)
 	Button.WidgetStyle = { Normal = Face(1), Hovered = Face(0.82), Pressed = Face(0.7), Disabled = Face(1) }
 end
 
+-- The same around what brings its own padding, an icon or a short text.
+function StyleTightButton(Button)
+	StyleBarButton(Button)
+	Button.WidgetStyle = { NormalPadding = Kit.Margin(0), PressedPadding = Kit.Margin(0) }
+end
+
 -- A box with a rounded outline, and a list that floats over the screen.
 function StyleComboBox(Box)
 	local Front = Kit.Color("Third")
