@@ -342,6 +342,24 @@ TEST_F(ScrollBoxTest, FocusMovedByKeysIsFollowed)
 	EXPECT_EQ(Box->GetScrollOffset(), Box->GetScrollOffsetOfEnd());
 }
 
+TEST_F(ScrollBoxTest, TabReachesWhatIsScrolledAway)
+{
+	ShowTen(SScrollBox::FArguments());
+	const TSharedRef<SButton> Far = SNew(SButton)[Piece("Far", 10, 10)];
+	const TSharedRef<SButton> Next = SNew(SButton)[Piece("Next", 10, 10)];
+	Box->AddSlot()[SNew(SBox)[Far]];
+	Box->AddSlot()[Next];
+	Frame();
+	Key(EKeys::Tab);
+	Frame();
+	EXPECT_TRUE(Far->HasKeyboardFocus());
+	EXPECT_GT(Box->GetScrollOffset(), 0.0f);
+	Key(EKeys::Tab);
+	Frame();
+	EXPECT_TRUE(Next->HasKeyboardFocus());
+	EXPECT_EQ(Box->GetScrollOffset(), Box->GetScrollOffsetOfEnd());
+}
+
 TEST_F(ScrollBoxTest, HorizontalBoxScrollsSideways)
 {
 	ShowTen(SScrollBox::FArguments().Orientation(Orient_Horizontal));

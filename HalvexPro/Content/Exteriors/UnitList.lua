@@ -43,5 +43,6 @@ end
 function PreConstruct(self)
 	Controls.StyleComboBox(self.SortBox)
 	Controls.StyleBarButton(self.Order)
+	Controls.StyleTightButton(self.FiltersButton)
 	Controls.StyleTextBox(self.SearchBox)
 end

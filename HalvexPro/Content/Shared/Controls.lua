@@ -7,11 +7,23 @@ local Models = Class("/Script/HalvexProUI.HalvexStyleModels")
 local None = { DrawAs = "NoDrawType" }
 
 -- The face of an HxButton takes its colour from the button, and is multiplied with these.
-function StyleBarButton(Button)
+local function MakeBarFaces(Radius)
 	local function Face(Light)
-		return Kit.RoundedBrush({ R = Light, G = Light, B = Light, A = 1 }, 8)
+		return Kit.RoundedBrush({ R = Light, G = Light, B = Light, A = 1 }, Radius)
 	end
-	Button.WidgetStyle = { Normal = Face(1), Hovered = Face(0.82), Pressed = Face(0.7), Disabled = Face(1) }
+	return { Normal = Face(1), Hovered = Face(0.82), Pressed = Face(0.7), Disabled = Face(1) }
+end
+
+function StyleBarButton(Button)
+	Button.WidgetStyle = MakeBarFaces(8)
+end
+
+-- The same for a button whose content alone says how much room there is around it.
+function StyleTightButton(Button, Radius)
+	local Style = MakeBarFaces(Radius or 8)
+	Style.NormalPadding = Kit.Margin(0)
+	Style.PressedPadding = Kit.Margin(0)
+	Button.WidgetStyle = Style
 end
 
 -- A round face of a colour, darker under the mouse; for the engine's button, which the keyboard focus can be given to.
@@ -128,8 +140,8 @@ function StyleCountBar(Bar)
 	Bar:SetFillColorAndOpacity({ R = 1, G = 1, B = 1, A = 1 })
 end
 
--- A field to type into, in the frame of a combo box.
-function StyleTextBox(Box)
+-- A field to type into, in the frame of a combo box. Room is that above and below the text.
+function StyleTextBox(Box, Room)
 	local function Face(Fill, Outline)
 		return Kit.RoundedBrush(Kit.Color("Third", false, Fill), 8, Outline)
 	end
@@ -142,7 +154,7 @@ function StyleTextBox(Box)
 		BackgroundImageReadOnly = Face(0.02, Quiet),
 		ForegroundColor = Front,
 		FocusedForegroundColor = Front,
-		Padding = Kit.Margin(12, 9),
+		Padding = Kit.Margin(12, Room or 9),
 		TextStyle = {
 			Font = Models:GetFontInfoFromFontSchema("regular"),
 			ColorAndOpacity = Front,

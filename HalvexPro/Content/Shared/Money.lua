@@ -1,7 +1,7 @@
 -- Amounts of money as people read them.
 
 -- 1234567 as "1 234 567".
-local function Group(Number)
+function Group(Number)
 	local Digits = string.format("%d", math.floor(Number + 0.5))
 	local Rest = #Digits % 3
 	local Parts = {}

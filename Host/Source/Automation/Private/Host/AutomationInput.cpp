@@ -241,15 +241,18 @@ namespace Host
 			return false;
 		}
 		TSet<const SWidget*> Visited;
+		const SWidget* Last = nullptr;
 		for (int32 Tabs = 0; Tabs < MostTabs && !HasFocus(*Found.Slate); ++Tabs)
 		{
 			PressKey(EKeys::Tab);
 			const TSharedPtr<SWidget> Focused = FSlateApplication::Get().GetKeyboardFocusedWidget();
-			if (!Focused || Visited.Contains(Focused.Get()))
+			// A widget may have several stops of its own, as the handles of a slider; coming back to one is having been everywhere.
+			if (!Focused || (Focused.Get() != Last && Visited.Contains(Focused.Get())))
 			{
 				break;
 			}
-			Visited.Add(Focused.Get());
+			Last = Focused.Get();
+			Visited.Add(Last);
 		}
 		if (!HasFocus(*Found.Slate))
 		{

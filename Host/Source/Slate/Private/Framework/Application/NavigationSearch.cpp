@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "Layout/Children.h"
 #include "Widgets/SWidget.h"
 #include "Widgets/SWindow.h"
 
@@ -55,7 +56,8 @@ namespace Host
 		};
 	}
 
-	FNavigationSearch::FNavigationSearch(const SWindow& Window, const SWidget* InWithin)
+	FNavigationSearch::FNavigationSearch(SWindow& Window, const SWidget* InWithin)
+		: Within(InWithin)
 	{
 		Window.GetRoot().ForEachWidget([this, InWithin](SWidget& Widget)
 		{
@@ -68,6 +70,24 @@ namespace Host
 				Candidates.Add(Widget.AsShared());
 			}
 			return true;
+		});
+		CollectInOrder(Window, !InWithin);
+	}
+
+	void FNavigationSearch::CollectInOrder(SWidget& Widget, bool bWithin)
+	{
+		Widget.GetChildren()->ForEachWidget([this, bWithin](SWidget& Child)
+		{
+			if (!Child.IsEnabled() || !Child.GetVisibility().IsVisible())
+			{
+				return;
+			}
+			// Whether it is cut off where it lies now does not count: scroll boxes follow the focus.
+			if (bWithin && Child.SupportsKeyboardFocus())
+			{
+				InOrder.Add(Child.AsShared());
+			}
+			CollectInOrder(Child, bWithin || &Child == Within);
 		});
 	}
 
@@ -83,26 +103,23 @@ namespace Host
 
 	TSharedPtr<SWidget> FNavigationSearch::FindWrapped(const SWidget* From, EUINavigation Direction) const
 	{
-		if (Candidates.IsEmpty())
+		const bool bNext = Direction == EUINavigation::Next;
+		if (bNext || Direction == EUINavigation::Previous)
 		{
-			return nullptr;
-		}
-		if (Direction == EUINavigation::Next || Direction == EUINavigation::Previous)
-		{
-			return Direction == EUINavigation::Next ? Candidates[0] : Candidates.Last();
+			return FindInOrder(nullptr, bNext);
 		}
 		return FindByPlace(From, Direction, true);
 	}
 
 	TSharedPtr<SWidget> FNavigationSearch::FindInOrder(const SWidget* From, bool bForward) const
 	{
-		const int32 Index = Candidates.IndexOfByPredicate([From](const TSharedRef<SWidget>& Candidate) { return &Candidate.Get() == From; });
+		const int32 Index = InOrder.IndexOfByPredicate([From](const TSharedRef<SWidget>& Candidate) { return &Candidate.Get() == From; });
 		if (Index == INDEX_NONE)
 		{
-			return Candidates.IsEmpty() ? TSharedPtr<SWidget>() : TSharedPtr<SWidget>(bForward ? Candidates[0] : Candidates.Last());
+			return InOrder.IsEmpty() ? TSharedPtr<SWidget>() : TSharedPtr<SWidget>(bForward ? InOrder[0] : InOrder.Last());
 		}
 		const int32 Other = bForward ? Index + 1 : Index - 1;
-		return Candidates.IsValidIndex(Other) ? TSharedPtr<SWidget>(Candidates[Other]) : nullptr;
+		return InOrder.IsValidIndex(Other) ? TSharedPtr<SWidget>(InOrder[Other]) : nullptr;
 	}
 
 	TSharedPtr<SWidget> FNavigationSearch::FindByPlace(const SWidget* From, EUINavigation Direction, bool bWrap) const

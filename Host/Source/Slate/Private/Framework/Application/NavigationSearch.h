@@ -14,7 +14,7 @@ namespace Host
 	{
 	public:
 		/** @param InWithin	the widget that the focus stays in; null for the whole window */
-		FNavigationSearch(const SWindow& Window, const SWidget* InWithin);
+		FNavigationSearch(SWindow& Window, const SWidget* InWithin);
 
 		/** Null when there is nothing in that direction. */
 		TSharedPtr<SWidget> Find(const SWidget* From, EUINavigation Direction) const;
@@ -22,10 +22,13 @@ namespace Host
 		TSharedPtr<SWidget> FindWrapped(const SWidget* From, EUINavigation Direction) const;
 
 	private:
+		void CollectInOrder(SWidget& Widget, bool bWithin);
 		TSharedPtr<SWidget> FindInOrder(const SWidget* From, bool bForward) const;
 		TSharedPtr<SWidget> FindByPlace(const SWidget* From, EUINavigation Direction, bool bWrap) const;
 
-		/** The widgets that take the focus, in the order of the tree. */
+		const SWidget* Within;
+		/** The widgets that take the focus, in the order of the tree: those that are seen, and also those that are scrolled away. */
 		TArray<TSharedRef<SWidget>> Candidates;
+		TArray<TSharedRef<SWidget>> InOrder;
 	};
 }
