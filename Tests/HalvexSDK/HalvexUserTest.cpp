@@ -262,6 +262,22 @@ namespace
 		EXPECT_FALSE(User.HasRememberedCredentials());
 	}
 
+	TEST_F(FHalvexUserTest, CancelledSignInLeavesTheOneBefore)
+	{
+		ServeAda();
+		ASSERT_TRUE(SignIn());
+		User.CancelLogin();
+		EXPECT_EQ(Events(), "result Ada Quay; logged Ada Quay; ") << "there is nothing to cancel";
+		Service.Server.Hold();
+		User.RequestUserLogin(FHalvexUserInformation(false, TEXT("bob"), TEXT("x")));
+		User.CancelLogin();
+		EXPECT_EQ(Events(), "result Cancelled; logged Cancelled; ");
+		Service.Server.Release();
+		WaitForQuiet();
+		EXPECT_EQ(Events(), "");
+		EXPECT_EQ(Host::ToStd(User.GetUserLoginInfo().UserName), "ada");
+	}
+
 	TEST_F(FHalvexUserTest, SignOutTellsTheServiceAndEverybody)
 	{
 		ServeAda(60, "r1");

@@ -117,6 +117,14 @@ bool UHalvexUser::GiveUpLogin()
 	return bInProcess;
 }
 
+void UHalvexUser::CancelLogin()
+{
+	if (GiveUpLogin())
+	{
+		EndLogin(EHalvexLoginError::Cancelled);
+	}
+}
+
 void UHalvexUser::ReceiveLogin(const FHalvexServiceReply& Reply)
 {
 	LoginExchange.Reset();

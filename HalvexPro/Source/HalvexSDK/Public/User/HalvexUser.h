@@ -54,6 +54,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "HalvexUser")
 	void RequestGuestUser();
 
+	/** Gives up the request to sign in that is in process; it ends as cancelled. Whoever is signed in stays so. */
+	UFUNCTION(BlueprintCallable, Category = "HalvexUser")
+	void CancelLogin();
+
 	/**
 	 * Signs out at once, and tells the service. A request that is in process ends as cancelled. What is remembered of the user is
 	 * forgotten; a guest's sign-out leaves what was remembered before.

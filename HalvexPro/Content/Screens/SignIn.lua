@@ -1,0 +1,27 @@
+-- The page to sign in on, until somebody has; then the user's badge alone.
+
+local function User()
+	return Subsystem("/Script/HalvexSDK.HalvexSDKEngineSubsystem"):GetHalvexUser()
+end
+
+local function ShowPage(self, Shown)
+	self.Page:SetVisibility(Shown and "Visible" or "Collapsed")
+end
+
+function ShowSignIn(self)
+	self.Panel:StartAnew()
+	ShowPage(self, true)
+end
+
+function OnInitialized(self)
+	self.Badge.Screen = self
+	self.Panel.OnLoginResult:Add(function(Successful)
+		if Successful then
+			ShowPage(self, false)
+		end
+	end)
+end
+
+function Construct(self)
+	ShowPage(self, not (User() and User():HasValidToken()))
+end

@@ -1,0 +1,74 @@
+-- The user at the top right of the screen, with a menu. It covers the whole screen, and takes clicks beside the menu while that
+-- is open.
+
+local Kit = Import("/HalvexPro/Shared/Kit")
+local Controls = Import("/HalvexPro/Shared/Controls")
+local Texts = Import("/HalvexPro/User/UserTexts")
+
+local function User()
+	return Subsystem("/Script/HalvexSDK.HalvexSDKEngineSubsystem"):GetHalvexUser()
+end
+
+local function Show(Widget, Shown)
+	Widget:SetVisibility(Shown and "Visible" or "Collapsed")
+end
+
+local function ShowMenu(self, Shown)
+	Show(self.Menu, Shown)
+	Show(self.ClickAway, Shown)
+	self.Arrow:SetRenderTransformAngle(Shown and 180 or 0)
+end
+
+local function ShowPicture(self, Texture)
+	local Brush = Kit.RoundedBrush({ R = 1, G = 1, B = 1, A = 1 }, 17)
+	Brush.ResourceObject = Texture
+	Brush.ImageSize = { X = 34, Y = 34 }
+	self.Picture:SetBrush(Brush)
+	Show(self.Picture, true)
+end
+
+function OnUserLogged(self, Info)
+	self.NameText:SetText(Info.DisplayName)
+	self.InitialsText:SetText(Texts.Initials(Info.DisplayName))
+	self.MenuNameText:SetText(Info.DisplayName)
+	self.MenuMailText:SetText(Info.bIsGuest and "Signed in as a guest" or Info.Email)
+	Show(self.MenuMailText, Info.bIsGuest or Info.Email ~= "")
+	Show(self.SignIn, Info.bIsGuest)
+	Show(self.Picture, false)
+	Show(self.Stack, true)
+	ShowMenu(self, false)
+	if Info.UserImage.Address ~= "" then
+		self:GetUserImage(function(Success, Texture)
+			-- Another user may have come meanwhile.
+			local _, Now = self:GetUserData()
+			if Success and Now.UserId == Info.UserId then
+				ShowPicture(self, Texture)
+			end
+		end)
+	end
+end
+
+function OnUserLogout(self)
+	ShowMenu(self, false)
+	Show(self.Stack, false)
+	if self.Screen then
+		self.Screen:ShowSignIn()
+	end
+end
+
+function OnInitialized(self)
+	self.BadgeButton.OnClickWithID:Add(function() ShowMenu(self, self.Menu:GetVisibility() ~= "Visible") end)
+	self.ClickAway.OnClicked:Add(function() ShowMenu(self, false) end)
+	self.SignOut.Button.OnClickWithID:Add(function() User():RequestUserLogout() end)
+	self.SignIn.Button.OnClickWithID:Add(function()
+		ShowMenu(self, false)
+		if self.Screen then
+			self.Screen:ShowSignIn()
+		end
+	end)
+end
+
+function PreConstruct(self)
+	Controls.StyleBarButton(self.BadgeButton)
+	Kit.StyleButton(self.ClickAway, { R = 0, G = 0, B = 0, A = 0 }, 0, 0, 0)
+end
