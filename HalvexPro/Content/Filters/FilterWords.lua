@@ -16,7 +16,7 @@ function Number(Component, Value)
 	if Component.Field == "Level" and Value == 0 then
 		return "Ground floor"
 	end
-	return Value < 0 and "−" .. Money.Group(-Value) or Money.Group(Value)
+	return Value < 0 and "-" .. Money.Group(-Value) or Money.Group(Value)
 end
 
 -- The same with its unit of measure.
