@@ -205,6 +205,13 @@ namespace
 		Sort(State, Plain.GetPath());
 	}
 
+	/** The same by price, with a graph that compares. */
+	void UnitListSortedByAGraph(benchmark::State& State)
+	{
+		const FPlainList Plain("function OnElementSorted(self, A, B) return A.Price < B.Price end");
+		Sort(State, Plain.GetPath());
+	}
+
 	/** The wheel turned over the list of the content, a notch a frame. */
 	void UnitListScrolled(benchmark::State& State)
 	{
@@ -230,4 +237,5 @@ BENCHMARK(UnitListFollowsAFilter)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benc
 BENCHMARK(UnitListSearched)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
 BENCHMARK(UnitListSearchedByAGraph)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
 BENCHMARK(UnitListSorted)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMillisecond)->Complexity();
+BENCHMARK(UnitListSortedByAGraph)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(UnitListScrolled)->Arg(1000)->Arg(10000)->Arg(100000)->Unit(benchmark::kMicrosecond);

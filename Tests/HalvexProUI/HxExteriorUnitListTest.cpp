@@ -286,6 +286,27 @@ namespace
 		EXPECT_EQ(Items(), "Echo ");
 	}
 
+	TEST_F(FHxExteriorUnitListTest, GraphGetsAllMembersOfAUnitAndItsChangesStayItsOwn)
+	{
+		ShowFive("function OnElementFilter(self, Text, Unit)\n"
+			"	local Count = 0\n"
+			"	for Name in pairs(Unit) do Count = Count + 1 end\n"
+			"	local Fits = tostring(Count) == Text and Unit.Level < 5 and Unit.Status == 'Available'\n"
+			"	Unit.Level, Unit.Status, Unit.More = 99, nil, true\n"
+			"	return Fits end");
+		int32 NumMembers = 0;
+		for (TFieldIterator<FProperty> It(FUnitData::StaticStruct()); It; ++It)
+		{
+			++NumMembers;
+		}
+		for (int32 Turn = 0; Turn < 2; ++Turn)
+		{
+			List->FilterUnitList(FText::AsNumber(NumMembers));
+			EXPECT_EQ(List->ListViewContainer->GetNumItems(), 5) << Turn;
+		}
+		EXPECT_EQ(GetUnit(TEXT("Echo")).GetUnitData().Level, 2);
+	}
+
 	TEST_F(FHxExteriorUnitListTest, UnitsThatAreGoneDisturbNeitherSearchNorSort)
 	{
 		ShowFive();

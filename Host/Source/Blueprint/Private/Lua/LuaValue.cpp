@@ -244,6 +244,47 @@ namespace Host
 		}
 	}
 
+	namespace
+	{
+		/** Where the registry keeps, by structure, the names of its members. */
+		constexpr char MemberNames = 0;
+
+		/** Pushes the names of a structure's members in their order, made once: a text of a name costs more than most values. */
+		void PushMemberNames(lua_State* State, const UScriptStruct& Struct)
+		{
+			if (lua_rawgetp(State, LUA_REGISTRYINDEX, &MemberNames) != LUA_TTABLE)
+			{
+				lua_pop(State, 1);
+				lua_newtable(State);
+				lua_pushvalue(State, -1);
+				lua_rawsetp(State, LUA_REGISTRYINDEX, &MemberNames);
+			}
+			if (lua_rawgetp(State, -1, &Struct) != LUA_TTABLE)
+			{
+				lua_pop(State, 1);
+				lua_newtable(State);
+				lua_Integer Count = 0;
+				for (TFieldIterator<FProperty> It(&Struct); It; ++It)
+				{
+					PushFString(State, It->GetName());
+					lua_rawseti(State, -2, ++Count);
+				}
+				lua_pushvalue(State, -1);
+				lua_rawsetp(State, -3, &Struct);
+			}
+			lua_remove(State, -2);
+		}
+
+		void PushName(lua_State* State, FName Name)
+		{
+			// Kept, so that a name needs no memory of its own.
+			static FString Text;
+			Text.Reset();
+			Name.AppendString(Text);
+			PushFString(State, Text);
+		}
+	}
+
 	FString ToFString(lua_State* State, int Index)
 	{
 		std::size_t Length = 0;
@@ -253,18 +294,26 @@ namespace Host
 
 	void PushFString(lua_State* State, const FString& Text)
 	{
-		lua_pushstring(State, TCHAR_TO_UTF8(*Text));
+		const FTCHARToUTF8 Bytes(*Text);
+		lua_pushlstring(State, Bytes.Get(), static_cast<std::size_t>(Bytes.Length()));
 	}
 
 	void PushLuaStruct(lua_State* State, const UScriptStruct& Struct, const void* Value)
 	{
-		lua_newtable(State);
+		/** The names, the table, a key, and what pushes them. */
+		constexpr int NumSlots = 6;
+		luaL_checkstack(State, NumSlots, nullptr);
+		PushMemberNames(State, Struct);
+		const int Names = lua_gettop(State);
+		lua_createtable(State, 0, static_cast<int>(lua_rawlen(State, Names)));
+		lua_Integer Member = 0;
 		for (TFieldIterator<FProperty> It(&Struct); It; ++It)
 		{
-			PushFString(State, It->GetName());
+			lua_rawgeti(State, Names, ++Member);
 			PushLuaValue(State, **It, It->ContainerPtrToValuePtr<void>(Value));
 			lua_rawset(State, -3);
 		}
+		lua_remove(State, Names);
 	}
 
 	void PushLuaValue(lua_State* State, const FProperty& Property, const void* Value)
@@ -298,7 +347,7 @@ namespace Host
 		}
 		else if (const FNameProperty* Name = CastField<FNameProperty>(&Property))
 		{
-			PushFString(State, Name->GetPropertyValue(Value).ToString());
+			PushName(State, Name->GetPropertyValue(Value));
 		}
 		else if (const FTextProperty* Text = CastField<FTextProperty>(&Property))
 		{
