@@ -14,4 +14,14 @@ namespace Host
 
 	/** Compares a picture that was drawn in another way with the approved one: channels may differ by as much as the tolerance, of 255. */
 	void ExpectNearGolden(const FString& Name, const FPicture& Picture, int32 Tolerance);
+
+	/**
+	 * Compares a picture that graphics drivers draw differently in detail with the approved one: both are made smaller by the
+	 * factor first, each pixel the mean of a square, so that single pixels along edges do not count and what is larger does.
+	 * @param Tolerance	difference of a channel of these means, of 255
+	 */
+	FPictureDifference CompareWithGolden(const FString& Name, const FPicture& Picture, int32 Factor, int32 Tolerance);
+
+	/** Fails when CompareWithGolden finds a difference, and leaves pictures as ExpectGolden does. */
+	void ExpectSimilarGolden(const FString& Name, const FPicture& Picture, int32 Factor, int32 Tolerance);
 }

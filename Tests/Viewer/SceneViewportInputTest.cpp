@@ -32,7 +32,7 @@ namespace
 			Viewport = SNew(SSceneViewport)
 				.Content(Content)
 				.OnVolumeHovered_Lambda([this](int32 Volume) { Hovered.Add(Volume); })
-				.OnVolumeClicked_Lambda([this](int32 Volume) { Clicked.Add(Volume); });
+				.OnVolumeClicked_Lambda([this](int32 Volume, const FPointerEvent&) { Clicked.Add(Volume); });
 			Viewport->MoveCamera([](FSceneCamera& Camera)
 			{
 				FSceneCamera::FPose Pose;

@@ -1,4 +1,5 @@
 #include "Host/PictureCompare.h"
+#include "LoopbackServer.h"
 
 #include "gtest/gtest.h"
 
@@ -96,6 +97,26 @@ TEST(ViewerScene, AProjectIsShownInThePlaceOfTheGallery)
 	EXPECT_EQ(Gallery.ExitCode, 0) << Gallery.Log;
 	EXPECT_FALSE(Host::ComparePictures(Gallery.Picture, Run.Picture).IsSame());
 	EXPECT_GT(CountColours(Run.Picture), 500) << "there is a scene in it, beside the list";
+}
+
+TEST(ViewerScene, AProjectFromAnAddressIsShownAsTheSameOneFromAFolder)
+{
+	const std::string Folder = HALVEX_SOURCE_DIR "/Viewer/Projects/Quayside";
+	std::ifstream File(Folder + "/project.json");
+	std::stringstream Text;
+	Text << File.rdbuf();
+	Host::FLoopbackServer Server;
+	Host::FServerReply Reply;
+	Reply.Body = Text.str();
+	Server.Serve("/quay/project.json", Reply);
+	const FViewerRun FromAddress = RunViewer("", "--renderer cpu --project " + std::string(TCHAR_TO_UTF8(*Server.GetUrl("/quay"))));
+	const FViewerRun FromFolder = RunViewer("", "--renderer cpu --project " + Folder);
+	const FViewerRun Missing = RunViewer("", "--renderer cpu --project " + std::string(TCHAR_TO_UTF8(*Server.GetUrl("/other"))));
+
+	EXPECT_EQ(FromAddress.ExitCode, 0) << FromAddress.Log;
+	EXPECT_TRUE(Host::ComparePictures(FromFolder.Picture, FromAddress.Picture).IsSame()) << "it waits for what comes";
+	EXPECT_EQ(Missing.ExitCode, 0);
+	EXPECT_NE(Missing.Log.find("There is no project at this address (404)."), std::string::npos) << Missing.Log;
 }
 
 TEST(ViewerScene, WithABrokenProjectTheViewerGoesOnWithoutOne)

@@ -12,11 +12,14 @@
 #include "Host/DumpWidgetTree.h"
 #include "Host/FontServices.h"
 #include "Host/PictureCompare.h"
+#include "HAL/PlatformProcess.h"
+#include "Host/ProjectLoader.h"
 #include "Host/ProjectScene.h"
 #include "Host/SSceneViewport.h"
 #include "Host/SampleScene.h"
 #include "Misc/App.h"
 #include "Misc/Paths.h"
+#include "Project/ProjectAddress.h"
 #include "Style/HalvexUIStyleConfiguration.h"
 #include "ViewerScreens.h"
 #include "Widgets/SWindow.h"
@@ -65,16 +68,20 @@ void FViewer::FErrorCounter::Write(const FName&, ELogVerbosity::Type Verbosity, 
 FViewer::FViewer(const FViewerOptions& InOptions)
 	: Options(InOptions)
 {
-	const bool bWorkOnly = Options.bListScreens || Options.bDumpTree || !Options.Screenshot.IsEmpty() || !Options.Script.IsEmpty();
 	if (!Options.bHeadless && !HasDisplay())
 	{
-		bNoDisplay = !bWorkOnly;
+		bNoDisplay = !IsWorkAskedFor();
 		Options.bHeadless = true;
 	}
 	Options.bHeadless |= Options.bListScreens;
 }
 
 FViewer::~FViewer() = default;
+
+bool FViewer::IsWorkAskedFor() const
+{
+	return Options.bListScreens || Options.bDumpTree || !Options.Screenshot.IsEmpty() || !Options.Script.IsEmpty();
+}
 
 int32 FViewer::Run()
 {
@@ -97,6 +104,12 @@ int32 FViewer::Run()
 		ExitCode = RunScreen();
 	}
 	Designer.Reset();
+	FTSTicker::RemoveTicker(FramingTicker);
+	if (Loader)
+	{
+		Loader->Close();
+		Loader.Reset();
+	}
 	Scene.Reset();
 	Project.Reset();
 	Loop.Exit();
@@ -137,10 +150,6 @@ bool FViewer::ChooseStyle(const FString& StylePath)
 	}
 	GetMutableDefault<UHalvexProUISettings>()->ProjectUIConfiguration = Style;
 	UHalvexUISubsystem::Get()->RefreshSettingsReferences();
-	if (Project)
-	{
-		Project->RefreshStyle();
-	}
 	return true;
 }
 
@@ -160,12 +169,17 @@ int32 FViewer::RunScreen()
 		ShowScene();
 	}
 	ShowProject();
-	const FString Screen = ChooseScreen();
+	// One from an address brings its screen with it.
+	const FString Screen = Loader ? FString() : ChooseScreen();
+	if (IsWorkAskedFor() || Options.bHeadless)
+	{
+		WaitForProject();
+	}
 	if (!Screen.IsEmpty() && (Options.bDesign ? !ShowDesign(Screen) : !ShowScreen(Screen)))
 	{
 		return 1;
 	}
-	if (Options.Script.IsEmpty() && Options.Screenshot.IsEmpty() && !Options.bDumpTree && !Options.bHeadless)
+	if (!IsWorkAskedFor() && !Options.bHeadless)
 	{
 		return Loop.Run();
 	}
@@ -196,12 +210,58 @@ void FViewer::ShowProject()
 {
 	// Without its screen the sample would be behind the gallery, where nobody sees it.
 	const bool bSample = Options.bSampleProject && ViewerScreens::List().Contains(UnitsScreen);
-	const FString Folder = bSample ? FString(TEXT(HALVEX_SAMPLE_PROJECT)) : Options.Project;
+	const FString Source = bSample ? FString(TEXT(HALVEX_SAMPLE_PROJECT)) : Options.Project;
 	FProjectData Data;
-	if (!Folder.IsEmpty() && Host::FProjectScene::Load(Folder, Data))
+	if (FProjectAddress::IsAddress(Source))
 	{
-		const FVector2D Size = Loop.GetWindow()->GetClientSizeInScreen();
-		Project = MakeUnique<Host::FProjectScene>(Data, Loop.GetRenderer(), Size.X / Size.Y);
+		Loader.Reset(NewObject<UProjectLoader>());
+		Loader->Load(Source, Host::FOnProjectLoaded::CreateRaw(this, &FViewer::ReceiveProject));
+	}
+	else if (!Source.IsEmpty() && Host::FProjectScene::Load(Source, Data, Options.UnitsMap))
+	{
+		PlaceProject(Data);
+	}
+}
+
+void FViewer::PlaceProject(const FProjectData& Data)
+{
+	const FVector2D Size = Loop.GetWindow()->GetClientSizeInScreen();
+	Project = MakeUnique<Host::FProjectScene>(Data, Loop.GetRenderer(), Size.X / Size.Y);
+}
+
+void FViewer::ReceiveProject(const FProjectData& Data)
+{
+	PlaceProject(Data);
+	Loader.Reset();
+	const FString Screen = bNoDisplay ? FString() : ChooseScreen();
+	if (!Screen.IsEmpty() && ViewerScreens::Show(Screen))
+	{
+		Project->AnnounceUnits();
+		// What the screen covers is known when it was painted: in the frame after this one.
+		bScreenPainted = false;
+		FramingTicker = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateRaw(this, &FViewer::FrameLater));
+	}
+}
+
+bool FViewer::FrameLater(float)
+{
+	if (bScreenPainted)
+	{
+		Project->FrameBesideScreens();
+		return false;
+	}
+	bScreenPainted = true;
+	return true;
+}
+
+void FViewer::WaitForProject()
+{
+	constexpr double FrameSeconds = 1.0 / 60.0;
+	while (Loader && Loader->IsLoading() && !Loop.IsExitRequested())
+	{
+		Loop.Step(FrameSeconds);
+		// The server needs real time, which passes slower than that of the frames.
+		FPlatformProcess::Sleep(0.001f);
 	}
 }
 
@@ -274,6 +334,7 @@ int32 FViewer::WriteAllScreens()
 	const FString Folder = FPaths::ConvertRelativePathToFull(TEXT("HalvexPictures"));
 	Print(FString::Printf(TEXT("There is no display: the screens are written as pictures to %s."), *Folder));
 	ShowProject();
+	WaitForProject();
 	for (const TCHAR* Style : ShippedStyles)
 	{
 		if (!ChooseStyle(FString::Printf(TEXT("/HalvexPro/Widgets/%s.%s"), Style, Style)))

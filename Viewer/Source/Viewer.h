@@ -1,12 +1,16 @@
 #pragma once
 
+#include "Containers/Ticker.h"
 #include "CoreMinimal.h"
 #include "Host/EngineLoop.h"
 #include "Host/LogSink.h"
 #include "Host/WidgetDesigner.h"
+#include "UObject/StrongObjectPtr.h"
 #include "ViewerOptions.h"
 
+class UProjectLoader;
 class UUserWidget;
+struct FProjectData;
 
 namespace Host
 {
@@ -36,6 +40,8 @@ private:
 		int32 NumErrors = 0;
 	};
 
+	/** Whether the program ends by itself, once something is done. */
+	bool IsWorkAskedFor() const;
 	bool Start();
 	bool ChooseStyle(const FString& StylePath);
 	/** Tool tips, menus and other text that names no font is drawn in the project's. */
@@ -43,8 +49,16 @@ private:
 	int32 RunScreen();
 	/** Shows the 3D scene under all screens. */
 	void ShowScene();
-	/** Shows the project under all screens, if it can be read. */
+	/** Shows the project under all screens, if it can be read. One at an address is begun to be fetched. */
 	void ShowProject();
+	/** Puts a project under all screens. */
+	void PlaceProject(const FProjectData& Data);
+	/** Shows the project that came from its address, with its screen. */
+	void ReceiveProject(const FProjectData& Data);
+	/** Shows the scene beside the screen, in the second frame in which it is called. */
+	bool FrameLater(float);
+	/** Runs frames until the project has come from its address, or will not. */
+	void WaitForProject();
 	/** The screen that was asked for, or the one for what else is shown; empty for none. */
 	FString ChooseScreen() const;
 	/** Shows a screen, and tells it of the project. Null when there is no such screen. */
@@ -65,6 +79,11 @@ private:
 	TSharedPtr<Host::SSceneViewport> Scene;
 	/** Set while a project is shown; gone before the engine stops. */
 	TUniquePtr<Host::FProjectScene> Project;
+	/** Set while a project is on its way; gone before the engine stops. */
+	TStrongObjectPtr<UProjectLoader> Loader;
+	/** Set until the scene is shown beside a screen that came in the middle of a frame. */
+	FTSTicker::FDelegateHandle FramingTicker;
+	bool bScreenPainted = false;
 	/** True when a window was wanted and there is no display. */
 	bool bNoDisplay = false;
 };

@@ -41,6 +41,7 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	std::string Screen;
 	std::string Scene;
 	std::string Project;
+	std::string UnitsMap;
 	std::string Style;
 	std::string Size;
 	std::string Renderer = "auto";
@@ -49,8 +50,10 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	App.add_option("--screen", Screen, "Screen to show; without it, that of the units of a project, or the gallery")->type_name("NAME");
 	App.add_option("--scene", Scene, "3D scene to show under the screen, or alone when no screen is named")
 		->type_name("sample")->check(CLI::IsMember({ "sample" }));
-	App.add_option("--project", Project, "Folder of a building project to show in 3D under the screen, or none; without it, and without a screen, the sample")
-		->type_name("FOLDER|none")->excludes("--scene");
+	App.add_option("--project", Project, "Building project to show in 3D under the screen: a folder, an address, a sales list, or none; without it, and without a screen, the sample")
+		->type_name("FOLDER|ADDRESS|FILE.csv|none")->excludes("--scene");
+	App.add_option("--units-map", UnitsMap, "Which columns of the sales list are which fields; without it, FILE.map.json beside FILE.csv, or the names of the fields")
+		->type_name("FILE.json")->needs("--project");
 	App.add_flag("--list-screens", OutOptions.bListScreens, "List the screens and end");
 	App.add_option("--style", Style, "Style configuration to use instead of the project's")->type_name("OBJECTPATH");
 	App.add_option("--size", Size, "Size of the window in pixels")->type_name("WxH")->check([](const std::string& Text)
@@ -78,6 +81,7 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	OutOptions.Screen = ToFString(Screen);
 	OutOptions.Scene = ToFString(Scene);
 	OutOptions.Project = Project == "none" ? FString() : ToFString(Project);
+	OutOptions.UnitsMap = ToFString(UnitsMap);
 	OutOptions.bSampleProject = Project.empty() && Screen.empty() && Scene.empty() && !OutOptions.bDesign && !OutOptions.bListScreens;
 	OutOptions.Style = ToFString(Style);
 	OutOptions.Screenshot = ToFString(Screenshot);

@@ -10,8 +10,10 @@ struct FViewerOptions
 	FString Screen;
 	/** Name of the 3D scene to show under the screen; empty for none. */
 	FString Scene;
-	/** Folder of the building project to show under the screen; empty for none. */
+	/** Folder, address or sales list of the building project to show under the screen; empty for none. */
 	FString Project;
+	/** File that maps the columns of the sales list; empty to look for one beside it. */
+	FString UnitsMap;
 	/** Show the sample project when the screen of units comes up and no project was named. */
 	bool bSampleProject = false;
 	bool bListScreens = false;

@@ -38,6 +38,7 @@ void UHalvexUISubsystem::RefreshSettingsReferences()
 	const UHalvexProUISettings* HalvexProSettings = GetDefault<UHalvexProUISettings>();
 	verify(HalvexProSettings);
 	UIConfig = Cast<UHalvexUIStyleConfiguration>(HalvexProSettings->ProjectUIConfiguration.LoadSynchronous());
+	SettingsRefreshed.Broadcast();
 }
 
 FLinearColor UHalvexUISubsystem::GetHalvexColorByID(FName ColorID, bool bContrast) const

@@ -25,6 +25,9 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "HalvexUISubsystem")
 	void RefreshSettingsReferences();
 
+	/** Raised when the style configuration was loaded anew: it may be another one. */
+	FSimpleMulticastDelegate& OnSettingsRefreshed() { return SettingsRefreshed; }
+
 	/**
 	 * A colour of the project's style, linear; style colours win over simple ones of the same identifier.
 	 * @param bContrast takes the contrast variant; without effect on simple colours
@@ -72,4 +75,6 @@ private:
 	/** The loaded style configuration, if any. */
 	UPROPERTY(Transient)
 	TObjectPtr<UHalvexUIStyleConfiguration> UIConfig = nullptr;
+
+	FSimpleMulticastDelegate SettingsRefreshed;
 };

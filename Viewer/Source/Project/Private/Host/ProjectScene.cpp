@@ -5,12 +5,16 @@
 #include "Engine/GameViewportClient.h"
 #include "Engine/World.h"
 #include "Framework/Application/SlateApplication.h"
+#include "HalvexUISubsystem.h"
 #include "Host/ConfiguratorSceneBinding.h"
 #include "Host/ProjectSurroundings.h"
 #include "Host/SpotSceneBinding.h"
 #include "Host/UnitSceneBinding.h"
 #include "Images/HalvexImageSettings.h"
+#include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
 #include "Project/ProjectReader.h"
+#include "Project/UnitTableReader.h"
 #include "UnitVolumes/UnitVolumesManager.h"
 #include "Widgets/SWindow.h"
 
@@ -58,14 +62,46 @@ namespace Host
 			Viewport->SetCoveredSides(Left, Right);
 			return true;
 		}
+
+		/** The mapping of a sales list. False, after a line in the log, when a file for it is named or there and cannot be read. */
+		bool LoadMapping(const FString& List, const FString& UnitsMap, FUnitTableMapping& OutMapping)
+		{
+			OutMapping = FUnitTableMapping::MakeDefault();
+			const FString Beside = FPaths::ChangeExtension(List, TEXT("map.json"));
+			const FString File = !UnitsMap.IsEmpty() ? UnitsMap : FPaths::FileExists(Beside) ? Beside : FString();
+			if (File.IsEmpty())
+			{
+				return true;
+			}
+			FReadProblems Problems(File);
+			FString Text;
+			const bool bThere = FFileHelper::LoadFileToString(Text, *File, FFileHelper::EHashOptions::None, FILEREAD_Silent);
+			if (!bThere)
+			{
+				Problems.Add(0, 0, TEXT("the file cannot be read"));
+			}
+			const bool bRead = bThere && FUnitTableMapping::FromJson(Text, OutMapping, Problems);
+			Problems.Log();
+			return bRead;
+		}
+
+		bool LoadList(const FString& List, const FString& UnitsMap, FProjectData& OutProject)
+		{
+			OutProject = FProjectData();
+			OutProject.Name = FPaths::GetBaseFilename(List);
+			OutProject.Source = FPaths::ConvertRelativePathToFull(FPaths::GetPath(List)) / TEXT("");
+			FUnitTableMapping Mapping;
+			return LoadMapping(List, UnitsMap, Mapping) && FUnitTableReader::LoadFile(List, Mapping, OutProject.Units);
+		}
 	}
 
-	bool FProjectScene::Load(const FString& Folder, FProjectData& OutProject)
+	bool FProjectScene::Load(const FString& Source, FProjectData& OutProject, const FString& UnitsMap)
 	{
-		const bool bRead = FProjectReader::LoadFolder(Folder, OutProject);
+		const bool bList = FPaths::GetExtension(Source).Equals(TEXT("csv"), ESearchCase::IgnoreCase);
+		const bool bRead = bList ? LoadList(Source, UnitsMap, OutProject) : FProjectReader::LoadFolder(Source, OutProject);
 		if (bRead && OutProject.Units.IsEmpty())
 		{
-			UE_LOG(LogProjectScene, Warning, TEXT("The project in %s has no units: there is nothing to show."), *Folder);
+			UE_LOG(LogProjectScene, Warning, TEXT("%s has no units: there is nothing to show."), *Source);
 		}
 		// Of a text that ended early, what came before is shown.
 		return !OutProject.Units.IsEmpty();
@@ -96,10 +132,15 @@ namespace Host
 		Configurator.Reset(NewObject<UConfiguratorSceneBinding>());
 		Configurator->OnRoomsShown.AddRaw(this, &FProjectScene::ReceivedRooms);
 		Configurator->Bind(Project, *Manager, WindowRenderer);
+		StyleHandle = UHalvexUISubsystem::Get()->OnSettingsRefreshed().AddRaw(this, &FProjectScene::RefreshStyle);
 	}
 
 	FProjectScene::~FProjectScene()
 	{
+		if (UHalvexUISubsystem* const Style = UHalvexUISubsystem::Get())
+		{
+			Style->OnSettingsRefreshed().Remove(StyleHandle);
+		}
 		GetMutableDefault<UHalvexImageSettings>()->FurtherImageFolders.RemoveSingle(ImageFolder);
 		Configurator->Unbind();
 		Spots->Unbind();

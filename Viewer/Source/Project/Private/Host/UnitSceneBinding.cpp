@@ -24,7 +24,7 @@ TSharedRef<SSceneViewport> UUnitSceneBinding::Bind(AUnitVolumesManager& InManage
 		.Content(Content)
 		.WindowRenderer(WindowRenderer)
 		.OnVolumeHovered(FOnSceneVolume::CreateUObject(this, &UUnitSceneBinding::Hovered))
-		.OnVolumeClicked(FOnSceneVolume::CreateUObject(this, &UUnitSceneBinding::Clicked));
+		.OnVolumeClicked(FOnSceneVolumeClicked::CreateUObject(this, &UUnitSceneBinding::Clicked));
 	InManager.OnUnitDataUpdated.AddDynamic(this, &UUnitSceneBinding::ReceivedUnitData);
 	InManager.OnUnitVolumeSelectionChanged.AddDynamic(this, &UUnitSceneBinding::ReceivedSelection);
 	InManager.OnUnitVolumeSelectionCleared.AddDynamic(this, &UUnitSceneBinding::ReceivedSelectionCleared);
@@ -90,6 +90,7 @@ void UUnitSceneBinding::ReceivedUnitData(const TArray<FUnitData>&)
 void UUnitSceneBinding::ReceivedSelection(const TArray<AUnitVolumeActor*>& UnitVolumes)
 {
 	TArray<int32> Changed = MoveTemp(SelectedVolumes);
+	const TArray<int32> Before = Changed;
 	SelectedVolumes.Reset();
 	for (const AUnitVolumeActor* UnitVolume : UnitVolumes)
 	{
@@ -106,9 +107,10 @@ void UUnitSceneBinding::ReceivedSelection(const TArray<AUnitVolumeActor*>& UnitV
 		States->SetVolumeFlag(Volume, ESceneVolumeState::Selected, UnitVolume && UnitVolume->IsSelected());
 	}
 	DrawChanges();
-	if (!SelectedVolumes.IsEmpty())
+	const int32 Last = UnitVolumes.IsEmpty() ? INDEX_NONE : FindVolume(UnitVolumes.Last());
+	if (Last != INDEX_NONE && !Before.Contains(Last) && !bClicking)
 	{
-		BringIntoView(*UnitVolumes.Last());
+		BringIntoView(Last);
 	}
 }
 
@@ -146,7 +148,7 @@ void UUnitSceneBinding::Hovered(int32 Volume)
 	}
 }
 
-void UUnitSceneBinding::Clicked(int32 Volume)
+void UUnitSceneBinding::Clicked(int32 Volume, const FPointerEvent& MouseEvent)
 {
 	OnClicked.Broadcast();
 	AUnitVolumesManager* const Bound = Manager.Get();
@@ -154,13 +156,16 @@ void UUnitSceneBinding::Clicked(int32 Volume)
 	{
 		return;
 	}
-	if (AUnitVolumeActor* const UnitVolume = GetUnit(Volume))
+	AUnitVolumeActor* const UnitVolume = GetUnit(Volume);
+	// What was clicked is in view: the camera stays.
+	TGuardValue<bool> Guard(bClicking, true);
+	if (!MouseEvent.IsControlDown())
 	{
-		Bound->SelectUnitVolume(UnitVolume, false);
+		UnitVolume ? Bound->SelectUnitVolume(UnitVolume, false) : Bound->ClearSelection();
 	}
-	else
+	else if (UnitVolume)
 	{
-		Bound->ClearSelection();
+		UnitVolume->IsSelected() ? Bound->UnselectUnitVolume(UnitVolume) : Bound->SelectUnitVolume(UnitVolume, true);
 	}
 }
 
@@ -259,12 +264,13 @@ void UUnitSceneBinding::DrawChanges()
 	}
 }
 
-void UUnitSceneBinding::BringIntoView(const AUnitVolumeActor& UnitVolume)
+void UUnitSceneBinding::BringIntoView(int32 Volume)
 {
-	const FBox Bounds = UnitVolume.GetVolumeBounds();
+	const FBox Bounds = Content->GetVolumeBounds(Volume);
 	FVector2D Position;
 	if (Viewport->Locate(Bounds.GetCenter(), Position) == ESceneSpot::OutOfView)
 	{
 		Viewport->MoveCamera([&](FSceneCamera& Camera) { Camera.Focus(Bounds.GetCenter(), RadiiInView * Bounds.GetExtent().Size(), Viewport->GetAspectRatio()); });
 	}
+	Viewport->RevealVolume(Volume);
 }

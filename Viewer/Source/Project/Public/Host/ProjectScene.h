@@ -17,10 +17,12 @@ namespace Host
 	{
 	public:
 		/**
-		 * Reads the project of a folder. What is wrong is logged.
+		 * Reads the project of a folder, or the units of a sales list (.csv). What is wrong is logged.
+		 * @param UnitsMap	file that maps the columns of the list; empty for the one beside it, "list.map.json" for "list.csv", and
+		 *					without that for headers that are the names of fields
 		 * @return false when there are no units; that is one line in the log
 		 */
-		static bool Load(const FString& Folder, FProjectData& OutProject);
+		static bool Load(const FString& Source, FProjectData& OutProject, const FString& UnitsMap = FString());
 
 		/**
 		 * Puts the project's units and spots into the world and shows them. Pictures may come from the project's folder from now on.
@@ -40,7 +42,7 @@ namespace Host
 		/** Shows all units, or all of the rooms, in what the screens over the scene leave free at its sides, as they were painted last. */
 		void FrameBesideScreens();
 
-		/** To be called when the style was changed. */
+		/** To be called when the style was changed; it is when another one was chosen. */
 		void RefreshStyle();
 
 		AUnitVolumesManager& GetManager() const { return *Manager; }
@@ -58,6 +60,7 @@ namespace Host
 		TStrongObjectPtr<UConfiguratorSceneBinding> Configurator;
 		/** Empty when the project was not read from a folder. */
 		FString ImageFolder;
+		FDelegateHandle StyleHandle;
 		TSharedPtr<SSceneViewport> Viewport;
 	};
 }

@@ -55,7 +55,8 @@ private:
 	void ReceivedFilterResult(const FUnitsFilterResult& FilterResult);
 
 	void Hovered(int32 Volume);
-	void Clicked(int32 Volume);
+	/** Selects what was clicked in place of the selection; with Ctrl adds it, or takes it out. */
+	void Clicked(int32 Volume, const FPointerEvent& MouseEvent);
 
 	/** Makes all volumes anew. */
 	void MakeVolumes(const TArray<AUnitVolumeActor*>& UnitVolumes);
@@ -65,8 +66,8 @@ private:
 	void ShowAllUnits();
 	/** Has the view drawn anew if anything looks different. */
 	void DrawChanges();
-	/** Turns to a unit that is beside the picture. */
-	void BringIntoView(const AUnitVolumeActor& UnitVolume);
+	/** Turns to a volume that is beside the picture, and about those that hide it. */
+	void BringIntoView(int32 Volume);
 	AUnitVolumeActor* GetUnit(int32 Volume) const;
 
 	TWeakObjectPtr<AUnitVolumesManager> Manager;
@@ -81,6 +82,8 @@ private:
 	TMap<const AUnitVolumeActor*, int32> VolumeOfUnit;
 	TArray<int32> SelectedVolumes;
 	int32 HighlightedVolume = INDEX_NONE;
+	/** While a click into the view selects. */
+	bool bClicking = false;
 	/** Volumes before it are surroundings. */
 	int32 FirstUnitVolume = 0;
 	FBox UnitBounds = FBox(ForceInit);

@@ -20,7 +20,11 @@ namespace Host
 	}
 
 	SSceneViewport::SSceneViewport()
-		: Quality(FSimpleDelegate::CreateLambda([this] { Invalidate(EInvalidateWidgetReason::Paint); }))
+		: Quality(FSimpleDelegate::CreateLambda([this]
+		{
+			MotionQuality.Forget();
+			Invalidate(EInvalidateWidgetReason::Paint);
+		}))
 	{
 	}
 
@@ -59,6 +63,17 @@ namespace Host
 
 	EActiveTimerReturnType SSceneViewport::Ease(double, float DeltaTime)
 	{
+		if (bEasing)
+		{
+			MotionQuality.NoteFrame(DeltaTime);
+		}
+		else
+		{
+			// Before it there may have been no frame for long.
+			bEasing = true;
+			const FIntPoint Size = GetPixelSize(GetCachedGeometry());
+			MotionQuality.Begin(int64(Size.X) * Size.Y);
+		}
 		if (Camera.Tick(DeltaTime))
 		{
 			Invalidate(EInvalidateWidgetReason::Paint);
@@ -68,6 +83,12 @@ namespace Host
 		{
 			return EActiveTimerReturnType::Continue;
 		}
+		bEasing = false;
+		if (MotionQuality.IsReduced())
+		{
+			Invalidate(EInvalidateWidgetReason::Paint);
+		}
+		MotionQuality.End();
 		if (Cursor.IsSet() && !Press.IsSet())
 		{
 			// Under a cursor that rests there may be something else by now.
@@ -119,6 +140,68 @@ namespace Host
 		return RayCaster->IsBlocked(View.Location, Place) ? ESceneSpot::Hidden : ESceneSpot::InSight;
 	}
 
+	int32 SSceneViewport::CountSeenPlaces(const FSceneView& View, int32 Volume)
+	{
+		const FBox Bounds = Content->GetVolumeBounds(Volume);
+		const FVector2D Size = GetViewSize();
+		const FBox2D Free = GetFreeArea(Size);
+		// Corners a little inside: at the very end it is chance what a ray meets.
+		constexpr double Shares[] = { 0.05, 0.5, 0.95 };
+		int32 NumSeen = 0;
+		for (const double X : Shares)
+		{
+			for (const double Y : Shares)
+			{
+				for (const double Z : Shares)
+				{
+					const FVector Place = Bounds.Min + (Bounds.Max - Bounds.Min) * FVector(X, Y, Z);
+					FVector2D Pixel;
+					FSceneHit Hit;
+					NumSeen += View.Project(Place, Size, Pixel) && Free.IsInsideOrOn(Pixel) && RayCaster->Cast(View.Location, Place - View.Location, Hit) && Hit.Volume == Volume;
+				}
+			}
+		}
+		return NumSeen;
+	}
+
+	void SSceneViewport::RevealVolume(int32 Volume)
+	{
+		/** Places that make a volume well seen. */
+		constexpr int32 Enough = 4;
+		constexpr double TurnStep = 20.0;
+		constexpr double TiltStep = 15.0;
+		FSceneCamera Goal = Camera;
+		Goal.Finish();
+		if (CountSeenPlaces(Goal.GetView(), Volume) > 0)
+		{
+			return;
+		}
+		FVector2D Best = FVector2D::ZeroVector;
+		int32 MostSeen = 0;
+		for (int32 Turn = 0; Turn <= 9 && MostSeen < Enough; ++Turn)
+		{
+			for (int32 Tilt = 0; Tilt <= 3; ++Tilt)
+			{
+				for (const double Side : { 1.0, -1.0 })
+				{
+					const FVector2D Way(Side * TurnStep * Turn, -TiltStep * Tilt);
+					FSceneCamera Tried = Goal;
+					Tried.Orbit(Way.X, Way.Y);
+					Tried.Finish();
+					if (const int32 NumSeen = CountSeenPlaces(Tried.GetView(), Volume); NumSeen > MostSeen)
+					{
+						MostSeen = NumSeen;
+						Best = Way;
+					}
+				}
+			}
+		}
+		if (MostSeen > 0)
+		{
+			MoveCamera([&](FSceneCamera& Moved) { Moved.Orbit(Best.X, Best.Y); });
+		}
+	}
+
 	bool SSceneViewport::Pick(const FVector2D& Position, FSceneHit& OutHit)
 	{
 		const FSceneView View = Camera.GetView();
@@ -146,7 +229,7 @@ namespace Host
 			return LayerId;
 		}
 		const FLinearColor Tint = InWidgetStyle.GetColorAndOpacityTint();
-		if (const TSharedPtr<const FTexture> Texture = Picture->Update(*Content, Camera.GetView(), Size, Quality.Get()))
+		if (const TSharedPtr<const FTexture> Texture = Picture->Update(*Content, Camera.GetView(), Size, MotionQuality.Apply(Quality.Get())))
 		{
 			FSlateDrawElement::MakeTexture(OutDrawElements, LayerId, AllottedGeometry.ToPaintGeometry(), Texture.ToSharedRef(), ESlateDrawEffect::None, Tint);
 		}

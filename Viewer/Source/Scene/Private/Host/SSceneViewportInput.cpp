@@ -46,7 +46,7 @@ namespace Host
 		if (bClicked)
 		{
 			FSceneHit Hit;
-			OnVolumeClicked.ExecuteIfBound(Pick(GetPosition(MyGeometry, MouseEvent), Hit) ? Hit.Volume : INDEX_NONE);
+			OnVolumeClicked.ExecuteIfBound(Pick(GetPosition(MyGeometry, MouseEvent), Hit) ? Hit.Volume : INDEX_NONE, MouseEvent);
 		}
 		return FReply::Handled().ReleaseMouseCapture();
 	}

@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Host/SceneCamera.h"
 #include "Host/SceneContent.h"
+#include "Host/SceneMotionQuality.h"
 #include "Host/ScenePicture.h"
 #include "Host/SceneQualityVariables.h"
 #include "Host/SceneRayCaster.h"
@@ -13,6 +14,7 @@ namespace Host
 {
 	/** A volume of the scene, or INDEX_NONE. */
 	DECLARE_DELEGATE_OneParam(FOnSceneVolume, int32);
+	DECLARE_DELEGATE_TwoParams(FOnSceneVolumeClicked, int32, const FPointerEvent&);
 
 	/** Whether a place of the scene is to be seen. */
 	enum class ESceneSpot : uint8
@@ -26,7 +28,7 @@ namespace Host
 
 	/**
 	 * Shows a scene over its whole area, in the quality that the console variables ask for. It is drawn when the camera, the
-	 * scene, the size or the quality changed, and else costs nothing. Where OpenGL cannot be used there is a plain background.
+	 * scene, the size or the quality changed, and else costs nothing. While the camera moves it is drawn faster where that is slow. Where OpenGL cannot be used there is a plain background.
 	 *
 	 * Dragging with the left button turns about the target, with the right or the middle one moves it; the wheel comes nearer to
 	 * what is under the cursor; a double click looks at a volume of the subject, or beside all of them, at the whole subject. What
@@ -45,7 +47,7 @@ namespace Host
 			/** The solid volume under the cursor is another one. */
 			SLATE_EVENT(FOnSceneVolume, OnVolumeHovered)
 			/** The left button was pressed and released at one place. INDEX_NONE beside all volumes. */
-			SLATE_EVENT(FOnSceneVolume, OnVolumeClicked)
+			SLATE_EVENT(FOnSceneVolumeClicked, OnVolumeClicked)
 		SLATE_END_ARGS()
 
 		SSceneViewport();
@@ -63,6 +65,12 @@ namespace Host
 
 		/** How much of the picture is covered at its sides, in local units: FrameAll shows the subject beside that. */
 		void SetCoveredSides(double Left, double Right);
+
+		/**
+		 * Turns the camera about its target, by as little as it takes, to where the volume is to be seen behind others; not at all
+		 * when a part of it is seen already, or from nowhere.
+		 */
+		void RevealVolume(int32 Volume);
 
 		/** Sends the camera to where it sees the whole subject. */
 		void FrameAll();
@@ -112,6 +120,8 @@ namespace Host
 			bool bDragged = false;
 		};
 
+		/** How many of some places all over a volume are seen, in the free area and with nothing before them. */
+		int32 CountSeenPlaces(const FSceneView& View, int32 Volume);
 		const FBox& GetSubject() const { return Subject.IsValid ? Subject : Content->GetBounds(); }
 		EActiveTimerReturnType Ease(double CurrentTime, float DeltaTime);
 		void Drag(const FVector2D& Way);
@@ -126,11 +136,14 @@ namespace Host
 		FSceneCamera Camera;
 		TUniquePtr<FScenePicture> Picture;
 		FSceneQualityVariables Quality;
+		FSceneMotionQuality MotionQuality;
+		/** The camera has been moving in the frame before. */
+		bool bEasing = false;
 		TWeakPtr<FActiveTimerHandle> EasingTimer;
 		TUniquePtr<FSceneRayCaster> RayCaster;
 		FSimpleMulticastDelegate ViewChanged;
 		FOnSceneVolume OnVolumeHovered;
-		FOnSceneVolume OnVolumeClicked;
+		FOnSceneVolumeClicked OnVolumeClicked;
 		TOptional<FPress> Press;
 		/** Where the cursor is over the scene. */
 		TOptional<FVector2D> Cursor;
