@@ -124,6 +124,16 @@ namespace
 		EXPECT_EQ(Index, 2);
 	}
 
+	TEST_F(FVariantHandlerTest, VariantIsActiveWhateverIsSelected)
+	{
+		EXPECT_TRUE(Handler->IsVariantActive(FName(TEXT("Oak"))));
+		Choose(TEXT("Marble"));
+		Select(TEXT("Bath"), TEXT("Tiles"));
+		EXPECT_TRUE(Handler->IsVariantActive(FName(TEXT("Marble"))));
+		EXPECT_FALSE(Handler->IsVariantActive(FName(TEXT("Oak"))));
+		EXPECT_FALSE(Handler->IsVariantActive(FName(TEXT("Gold"))));
+	}
+
 	TEST_F(FVariantHandlerTest, VariantThatIsPutBackLeavesTheDefault)
 	{
 		Choose(TEXT("Marble"));
@@ -263,6 +273,35 @@ namespace
 		const FExpectedLog Warning(TEXT("not in the catalogue, and so not chosen: 'Gold' in 'Kitchen.Worktop', 'Marble' in 'Kitchen.Fronts'"));
 		Handler->SetConfiguratorState(State);
 		EXPECT_EQ(Changes(), "Bath.Tiles Green 300, Kitchen.Tap Brass 250") << "the last of several, and no defaults";
+	}
+
+	TEST_F(FVariantHandlerTest, EachUnitHasItsOwnConfiguration)
+	{
+		Choose(TEXT("Marble"));
+		Heard();
+		Handler->SetConfiguredUnit(FName(TEXT("A1")));
+		EXPECT_EQ(Changes(), "Kitchen.Worktop Marble 900") << "the first unit takes over what was there";
+		EXPECT_EQ(Heard(), "");
+		Handler->SetConfiguredUnit(FName(TEXT("B1")));
+		EXPECT_EQ(Changes(), "");
+		EXPECT_EQ(Heard(), "variants; looks Top 0.3 Doors 0.9; changes; ");
+		Choose(TEXT("Green"));
+		Handler->SetConfiguredUnit(FName(TEXT("A1")));
+		EXPECT_EQ(Changes(), "Kitchen.Worktop Marble 900");
+		EXPECT_EQ(Host::ToStd(Handler->GetConfiguredUnit()), "A1");
+		Handler->SetConfiguredUnit(FName());
+		EXPECT_EQ(Changes(), "");
+		Handler->SetConfiguredUnit(FName(TEXT("B1")));
+		EXPECT_EQ(Changes(), "Bath.Tiles Green 300");
+	}
+
+	TEST_F(FVariantHandlerTest, KeyOfAChangeIsReadAsPeopleKnowIt)
+	{
+		FText Category;
+		FText SubCategory;
+		EXPECT_TRUE(Handler->GetDisplayTexts(FName(TEXT("Bath.Basin.Round")), Category, SubCategory));
+		EXPECT_EQ(Host::ToStd(Category) + ", " + Host::ToStd(SubCategory), "The Bath, All Basin.Round");
+		EXPECT_FALSE(Handler->GetDisplayTexts(FName(TEXT("Bath")), Category, SubCategory));
 	}
 
 	TEST_F(FVariantHandlerTest, ExchangedCatalogueKeepsTheChoicesThatItHas)

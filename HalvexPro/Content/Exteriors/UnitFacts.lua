@@ -1,5 +1,7 @@
 -- What people read of a unit.
 
+local Money = Import("/HalvexPro/Shared/Money")
+
 local Statuses = {
 	Available = { Text = "Available", Color = "Success" },
 	Reserved = { Text = "Reserved", Color = "Warning" },
@@ -7,22 +9,8 @@ local Statuses = {
 	NotForSale = { Text = "Not for sale" },
 }
 
--- 1234567 as "1 234 567".
-local function Group(Number)
-	local Digits = string.format("%d", math.floor(Number + 0.5))
-	local Rest = #Digits % 3
-	local Parts = {}
-	if Rest > 0 then
-		Parts[1] = Digits:sub(1, Rest)
-	end
-	for Index = Rest + 1, #Digits, 3 do
-		Parts[#Parts + 1] = Digits:sub(Index, Index + 2)
-	end
-	return table.concat(Parts, " ")
-end
-
 function Price(Unit)
-	return Unit.Price > 0 and Group(Unit.Price) .. " " .. Unit.Currency or "On request"
+	return Unit.Price > 0 and Money.Amount(Unit.Price, Unit.Currency) or "On request"
 end
 
 function Level(Unit)

@@ -29,6 +29,12 @@ function StyleRoundButton(Button, Color, Radius)
 	})
 end
 
+-- The same around what brings its own padding, an icon or a short text.
+function StyleTightButton(Button)
+	StyleBarButton(Button)
+	Button.WidgetStyle = { NormalPadding = Kit.Margin(0), PressedPadding = Kit.Margin(0) }
+end
+
 -- A box with a rounded outline, and a list that floats over the screen.
 function StyleComboBox(Box)
 	local Front = Kit.Color("Third")

@@ -26,6 +26,17 @@ namespace
 		return Item;
 	}
 
+	FHalvexItemOverrideData MakeCategoryItem(const UHalvexConfiguratorDataAsset& Asset, const FCatalogueCategory& Category)
+	{
+		return MakeItem(Category.CategoryId, Category.Name, Category.Image, Asset.CategoryOverrides.Find(Category.CategoryId));
+	}
+
+	FHalvexItemOverrideData MakeSubCategoryItem(const UHalvexConfiguratorDataAsset& Asset, const FSubCategory& SubCategory)
+	{
+		const FCatalogueSubCategory& Data = *SubCategory.Data;
+		return MakeItem(Data.SubCategoryId, Data.Name, Data.Image, Asset.SubCategoryOverrides.Find(SubCategory.Key));
+	}
+
 	FHalvexItemOverrideData MakeProductItem(const UHalvexConfiguratorDataAsset& Asset, const FHalvexConfigProduct& Product)
 	{
 		return MakeItem(Product.ProductKey, Product.Name, Product.Image, Asset.ProductOverrides.Find(Product.ProductKey));
@@ -266,8 +277,7 @@ TArray<FHalvexItemOverrideData> UHalvexVariantHandler::GetAllCategoryOverrideDat
 	{
 		for (const FHalvexCatalogueIndex::FCategory& Category : Configurator->GetIndex().GetCategories())
 		{
-			const FCatalogueCategory& Data = *Category.Data;
-			Items.Add(MakeItem(Data.CategoryId, Data.Name, Data.Image, Configurator->CategoryOverrides.Find(Data.CategoryId)));
+			Items.Add(MakeCategoryItem(*Configurator, *Category.Data));
 		}
 	}
 	return Items;
@@ -280,8 +290,7 @@ TArray<FHalvexItemOverrideData> UHalvexVariantHandler::GetSubCategoryOverrideDat
 	{
 		for (const FSubCategory& SubCategory : Category->SubCategories)
 		{
-			const FCatalogueSubCategory& Data = *SubCategory.Data;
-			Items.Add(MakeItem(Data.SubCategoryId, Data.Name, Data.Image, Configurator->SubCategoryOverrides.Find(SubCategory.Key)));
+			Items.Add(MakeSubCategoryItem(*Configurator, SubCategory));
 		}
 	}
 	return Items;
@@ -301,6 +310,17 @@ TArray<FHalvexItemOverrideData> UHalvexVariantHandler::GetProductOverrideData() 
 	return Items;
 }
 
+bool UHalvexVariantHandler::GetDisplayTexts(const FName& Key, FText& OutCategory, FText& OutSubCategory) const
+{
+	const FSubCategory* const SubCategory = Configurator ? Configurator->GetIndex().FindSubCategory(Key) : nullptr;
+	if (SubCategory)
+	{
+		OutCategory = MakeCategoryItem(*Configurator, *FindCategory(Configurator, SubCategory->Category)->Data).DisplayText;
+		OutSubCategory = MakeSubCategoryItem(*Configurator, *SubCategory).DisplayText;
+	}
+	return SubCategory != nullptr;
+}
+
 bool UHalvexVariantHandler::GetProductDataFromVariant(const FName& Variant, FHalvexConfigProduct& OutProduct) const
 {
 	return Configurator && Configurator->GetConfiguratorProductByKey(Variant, OutProduct);
@@ -311,10 +331,10 @@ bool UHalvexVariantHandler::GetProductDataFromVariant(const FName& Variant, FHal
 bool UHalvexVariantHandler::GetVariantThumbnail(UTexture2D*& OutThumbnail, FName Variant)
 {
 	const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Variant);
-	return GetThumbnail(OutThumbnail, Place ? MakeProductItem(*Configurator, Place->Variant->Product).Image : FName());
+	return GetThumbnail(Place ? MakeProductItem(*Configurator, Place->Variant->Product).Image : FName(), OutThumbnail);
 }
 
-bool UHalvexVariantHandler::GetThumbnail(UTexture2D*& OutThumbnail, FName Image)
+bool UHalvexVariantHandler::GetThumbnail(FName Image, UTexture2D*& OutThumbnail)
 {
 	OutThumbnail = Configurator ? Thumbnails->Get(Image, Configurator->Images) : nullptr;
 	return OutThumbnail != nullptr;
@@ -338,6 +358,12 @@ FName UHalvexVariantHandler::GetActiveVariant(FName Category, FName SubCategory)
 {
 	const FSubCategory* const Found = FindSubCategory(Configurator, Category, SubCategory);
 	return Found ? FindActive(ChosenOfKey, *Found) : FName();
+}
+
+bool UHalvexVariantHandler::IsVariantActive(const FName& Variant) const
+{
+	const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Variant);
+	return Place && FindActive(ChosenOfKey, *Place->SubCategory) == Variant;
 }
 
 TMap<FName, FName> UHalvexVariantHandler::GetActiveVariants() const
@@ -445,6 +471,26 @@ FHalvexConfiguratorState UHalvexVariantHandler::GetConfiguratorState() const
 void UHalvexVariantHandler::SetConfiguratorState(const FHalvexConfiguratorState& State)
 {
 	Change(State.Choices, State.ProductList, false);
+}
+
+void UHalvexVariantHandler::SetConfiguredUnit(FName UnitId)
+{
+	if (UnitId == ConfiguredUnit)
+	{
+		return;
+	}
+	const bool bFirst = ConfiguredUnit.IsNone() && StateOfUnit.IsEmpty();
+	if (!ConfiguredUnit.IsNone())
+	{
+		StateOfUnit.Add(ConfiguredUnit, GetConfiguratorState());
+	}
+	ConfiguredUnit = UnitId;
+	if (!bFirst)
+	{
+		FHalvexConfiguratorState Kept;
+		StateOfUnit.RemoveAndCopyValue(UnitId, Kept);
+		SetConfiguratorState(Kept);
+	}
 }
 
 void UHalvexVariantHandler::Change(const TArray<FHalvexVariantChoice>& NewChoices, const TArray<FName>& NewProductList, bool bCatalogueChanged)

@@ -121,6 +121,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
 	TArray<FHalvexItemOverrideData> GetProductOverrideData() const;
 
+	/** What people read of the category and of the subcategory of a key, "Category.SubCategory"; false when there is no such subcategory. */
+	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
+	bool GetDisplayTexts(const FName& Key, FText& OutCategory, FText& OutSubCategory) const;
+
 	/** The product of a variant, wherever it stands in the catalogue; false when there is none. */
 	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
 	bool GetProductDataFromVariant(const FName& Variant, FHalvexConfigProduct& OutProduct) const;
@@ -140,7 +144,7 @@ public:
 	 * @return whether it is there already
 	 */
 	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
-	bool GetThumbnail(UTexture2D*& OutThumbnail, FName Image);
+	bool GetThumbnail(FName Image, UTexture2D*& OutThumbnail);
 
 	// Active variants.
 
@@ -155,6 +159,10 @@ public:
 	/** The active variant of a subcategory; none when there is none, or no such subcategory. */
 	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
 	FName GetActiveVariant(FName Category, FName SubCategory) const;
+
+	/** Whether a variant is active, wherever it stands in the catalogue. */
+	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
+	bool IsVariantActive(const FName& Variant) const;
 
 	/** The active variants by "Category.SubCategory", in the order of the catalogue; without those where none is. */
 	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
@@ -194,6 +202,17 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
 	void SetConfiguratorState(const FHalvexConfiguratorState& State);
 
+	/**
+	 * Goes on with another unit: what is configured is kept for the unit from before, and what was kept for the new one is taken
+	 * up. What was configured before there was any unit belongs to the first one.
+	 */
+	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
+	void SetConfiguredUnit(FName UnitId);
+
+	/** Key of the unit that is configured; none when there is none yet. */
+	UFUNCTION(BlueprintCallable, Category = "VariantHandler")
+	FName GetConfiguredUnit() const { return ConfiguredUnit; }
+
 private:
 	void ReceivedCatalogueChange();
 	void ReceivedProductListChange();
@@ -226,6 +245,10 @@ private:
 	UPROPERTY()
 	TArray<FVariantSurfaceLook> LastLooks;
 
+	/** What was configured for other units than the present one, by their key. */
+	TMap<FName, FHalvexConfiguratorState> StateOfUnit;
+
+	FName ConfiguredUnit;
 	FName SelectedCategory;
 	FName SelectedSubCategory;
 	FName SelectedVariant;
