@@ -251,6 +251,23 @@ namespace
 		EXPECT_TRUE(Handler->GetConfigtorChangeList().IsEmpty()) << "behind the list is the summary";
 	}
 
+	TEST_F(FConfiguratorScreenTest, KeysGoOnFromTheSummaryWhenAChangeWasTakenBack)
+	{
+		ShowScreenOverCatalogue();
+		Choose(TEXT("Marble"));
+		Choose(TEXT("Green"));
+		Choose(TEXT("Large"));
+		Settle();
+		ClickOn(TEXT("TakeBack#1"));
+		Driver.PressKey(EKeys::Tab);
+		Driver.PressKey(EKeys::Enter);
+		Settle();
+		EXPECT_EQ(Handler->GetConfigtorChangeList().Num(), 1) << "the next line";
+		Driver.PressKey(EKeys::Enter);
+		Settle();
+		EXPECT_TRUE(Handler->GetConfigtorChangeList().IsEmpty()) << "the reset of all";
+	}
+
 	TEST_F(FConfiguratorScreenTest, EachUnitKeepsItsConfiguration)
 	{
 		ShowScreenOverCatalogue();

@@ -64,12 +64,12 @@ function OnConfiguratorChangesListUpdate(self, ChangeList)
 end
 
 function OnInitialized(self)
-	self.Reset.OnClickWithID:Add(function()
+	self.Reset.OnClicked:Add(function()
 		self.VariantHandler:ResetChanges()
 	end)
 end
 
 function PreConstruct(self)
-	Controls.StyleTightButton(self.Reset)
+	Controls.StyleRoundButton(self.Reset, Kit.Color("Third", false, 0.08), 8)
 	Controls.StyleScrollBox(self.Scroll)
 end
