@@ -227,6 +227,17 @@ namespace
 		EXPECT_TRUE(User.HasValidToken()) << "nothing is known of the session";
 	}
 
+	TEST_F(FHalvexUserTest, RedirectToAnotherServerGetsNoPassword)
+	{
+		Host::FLoopbackServer Other;
+		Other.Serve("/api/session", FService::Grant("t1", 60));
+		FServerReply Redirect = FService::Json(307, "");
+		Redirect.Headers.emplace_back("Location", Host::ToStd(Other.GetUrl("/api/session")));
+		const FExpectedLog Line(TEXT("its address, its redirects or the size of the answer are not accepted"));
+		EXPECT_EQ(FailWith(Redirect), EHalvexLoginError::BadAnswer);
+		EXPECT_EQ(Other.GetVisits("/api/session"), 0);
+	}
+
 	TEST_F(FHalvexUserTest, LaterOfTwoRequestsCountsAndTheEarlierEndsAsCancelled)
 	{
 		Service.Server.Serve("/api/session", FService::Grant("t1", 60));

@@ -66,7 +66,7 @@ FHalvexRememberedUser& UHalvexUser::GetRemembered() const
 	const FString ServiceName = GetConnection().GetServiceName();
 	if (!Remembered.IsValid() || Remembered->GetServiceName() != ServiceName)
 	{
-		Remembered = MakeUnique<FHalvexRememberedUser>();
+		Remembered = MakeShared<FHalvexRememberedUser>();
 		Remembered->Load(ServiceName);
 	}
 	return *Remembered;

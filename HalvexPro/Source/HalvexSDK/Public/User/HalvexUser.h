@@ -155,5 +155,5 @@ private:
 	int32 NextSignOut = 0;
 
 	/** Read when it is needed first, and anew for another service. */
-	mutable TUniquePtr<FHalvexRememberedUser> Remembered;
+	mutable TSharedPtr<FHalvexRememberedUser> Remembered;
 };
