@@ -148,6 +148,25 @@ namespace
 		}
 	}
 
+	TEST_F(FHalvexUserTest, WhatIsNoHttpIsOfNoUse)
+	{
+		for (const EServerFault Fault : { EServerFault::Garbage, EServerFault::EndlessHeaders })
+		{
+			FServerReply Broken = FService::Grant("t1", 60);
+			Broken.Fault = Fault;
+			const FExpectedLog Line(TEXT("its address, its redirects or the size of the answer are not accepted"));
+			EXPECT_EQ(FailWith(Broken), EHalvexLoginError::BadAnswer);
+		}
+	}
+
+	TEST_F(FHalvexUserTest, AnswerThatDripsIsWaitedFor)
+	{
+		FServerReply Slow = FService::Grant("t1", 60);
+		Slow.Fault = EServerFault::Drip;
+		Service.Server.Serve("/api/session", Slow);
+		EXPECT_TRUE(SignIn());
+	}
+
 	TEST_F(FHalvexUserTest, ServerThatIsDownIsNoAnswer)
 	{
 		FString Gone;
