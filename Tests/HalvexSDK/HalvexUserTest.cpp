@@ -327,6 +327,16 @@ namespace
 		EXPECT_EQ(Events(), "") << "a second time there is nobody";
 	}
 
+	TEST_F(FHalvexUserTest, SignOutByWhoHearsOfTheResultIsTheLastWord)
+	{
+		ServeAda();
+		Listener->bSignOutAtOnce = true;
+		ASSERT_TRUE(SignIn());
+		EXPECT_EQ(Events(), "result Ada Quay; logout; ");
+		EXPECT_FALSE(User.HasValidToken());
+		WaitForQuiet();
+	}
+
 	TEST_F(FHalvexUserTest, FailedSignInLeavesTheOneBefore)
 	{
 		ServeAda();
