@@ -236,6 +236,44 @@ namespace
 		ExpectFailure("/trap", EHttpFailureReason::Other);
 	}
 
+	TEST_F(FHttpRequestTest, RedirectToAnotherServerTakesNeitherContentNorAuthorizationAlong)
+	{
+		Host::FLoopbackServer Other;
+		Other.Serve("/other", FServerReply());
+		for (const int Status : { 301, 302, 303, 307, 308 })
+		{
+			FServerReply Away = Redirect(Host::ToStd(Other.GetUrl("/other")));
+			Away.Status = Status;
+			Server.Serve("/away", Away);
+			const FHttpRequestRef Request = MakeFor("/away");
+			Request->SetVerb(TEXT("POST"));
+			Request->SetHeader(TEXT("Authorization"), TEXT("Bearer secret"));
+			Request->SetContentAsString(TEXT("password"));
+			const FResult& Result = Process(Request);
+			const bool bKeepsContent = Status >= 307;
+			EXPECT_EQ(Result.bConnected, !bKeepsContent) << Status;
+			EXPECT_EQ(Other.GetLastRequest("/other").Body, "") << Status;
+			EXPECT_EQ(Other.GetLastRequest("/other").Headers.count("authorization"), 0u) << Status;
+		}
+		EXPECT_EQ(Other.GetVisits("/other"), 3);
+	}
+
+	TEST_F(FHttpRequestTest, RedirectAtTheSameServerTakesTheContentAlong)
+	{
+		Server.Serve("/new", FServerReply());
+		for (const std::string& Target : { std::string("/new"), Host::ToStd(Server.GetUrl("/new")) })
+		{
+			FServerReply Moved = Redirect(Target);
+			Moved.Status = 308;
+			Server.Serve("/moved", Moved);
+			const FHttpRequestRef Request = MakeFor("/moved");
+			Request->SetVerb(TEXT("POST"));
+			Request->SetContentAsString(TEXT("password"));
+			EXPECT_TRUE(Process(Request).bConnected);
+			EXPECT_EQ(Server.GetLastRequest("/new").Body, "password");
+		}
+	}
+
 	TEST_F(FHttpRequestTest, LostConnectionsAreFailures)
 	{
 		for (const EServerFault Fault : { EServerFault::CloseAtOnce, EServerFault::CloseInHeaders, EServerFault::CloseInBody })

@@ -306,6 +306,24 @@ namespace
 		EXPECT_TRUE(FService::GetUser().HasValidToken());
 	}
 
+	TEST_F(FSignInScreenTest, LongNamesStayInTheirPlace)
+	{
+		const std::string Name(200, 'w');
+		Service.Server.Serve("/api/session", FService::Grant("t1", 3600, "r1",
+			"\"user\": {\"id\": \"u1\", \"userName\": \"" + Name + "\", \"displayName\": \"" + Name + "\", \"email\": \"" + Name + "\"}"));
+		ShowScreen();
+		Click(TEXT("RememberBox"));
+		Fill();
+		Enter();
+		Click(TEXT("BadgeButton"));
+		const auto Width = [&](const TCHAR* Locator) { return Driver.Find(Locator)->GetCachedGeometry().GetLocalSize().X; };
+		EXPECT_LE(Width(TEXT("BadgeButton")), 320.0);
+		EXPECT_LE(Width(TEXT("Menu")), 320.0);
+		Restart();
+		EXPECT_LE(Width(TEXT("Continue/Label")), 336.0);
+		EXPECT_LE(Width(TEXT("RememberedText")), 336.0);
+	}
+
 	TEST_F(FSignInScreenTest, BadgeShowsThePictureInPlaceOfTheInitials)
 	{
 		FServerReply Picture;

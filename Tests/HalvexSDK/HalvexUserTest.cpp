@@ -148,6 +148,25 @@ namespace
 		}
 	}
 
+	TEST_F(FHalvexUserTest, WhatIsNoHttpIsOfNoUse)
+	{
+		for (const EServerFault Fault : { EServerFault::Garbage, EServerFault::EndlessHeaders })
+		{
+			FServerReply Broken = FService::Grant("t1", 60);
+			Broken.Fault = Fault;
+			const FExpectedLog Line(TEXT("its address, its redirects or the size of the answer are not accepted"));
+			EXPECT_EQ(FailWith(Broken), EHalvexLoginError::BadAnswer);
+		}
+	}
+
+	TEST_F(FHalvexUserTest, AnswerThatDripsIsWaitedFor)
+	{
+		FServerReply Slow = FService::Grant("t1", 60);
+		Slow.Fault = EServerFault::Drip;
+		Service.Server.Serve("/api/session", Slow);
+		EXPECT_TRUE(SignIn());
+	}
+
 	TEST_F(FHalvexUserTest, ServerThatIsDownIsNoAnswer)
 	{
 		FString Gone;
@@ -227,6 +246,17 @@ namespace
 		EXPECT_TRUE(User.HasValidToken()) << "nothing is known of the session";
 	}
 
+	TEST_F(FHalvexUserTest, RedirectToAnotherServerGetsNoPassword)
+	{
+		Host::FLoopbackServer Other;
+		Other.Serve("/api/session", FService::Grant("t1", 60));
+		FServerReply Redirect = FService::Json(307, "");
+		Redirect.Headers.emplace_back("Location", Host::ToStd(Other.GetUrl("/api/session")));
+		const FExpectedLog Line(TEXT("its address, its redirects or the size of the answer are not accepted"));
+		EXPECT_EQ(FailWith(Redirect), EHalvexLoginError::BadAnswer);
+		EXPECT_EQ(Other.GetVisits("/api/session"), 0);
+	}
+
 	TEST_F(FHalvexUserTest, LaterOfTwoRequestsCountsAndTheEarlierEndsAsCancelled)
 	{
 		Service.Server.Serve("/api/session", FService::Grant("t1", 60));
@@ -295,6 +325,16 @@ namespace
 		EXPECT_EQ(Host::ToStd(ReadBody(Request)->GetStringField(TEXT("refreshToken"))), "r1");
 		User.RequestUserLogout();
 		EXPECT_EQ(Events(), "") << "a second time there is nobody";
+	}
+
+	TEST_F(FHalvexUserTest, SignOutByWhoHearsOfTheResultIsTheLastWord)
+	{
+		ServeAda();
+		Listener->bSignOutAtOnce = true;
+		ASSERT_TRUE(SignIn());
+		EXPECT_EQ(Events(), "result Ada Quay; logout; ");
+		EXPECT_FALSE(User.HasValidToken());
+		WaitForQuiet();
 	}
 
 	TEST_F(FHalvexUserTest, FailedSignInLeavesTheOneBefore)

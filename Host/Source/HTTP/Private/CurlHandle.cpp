@@ -1,6 +1,7 @@
 #include "CurlHandle.h"
 
 #include "Host/HttpLimits.h"
+#include "HttpMessage.h"
 
 #include <cmath>
 
@@ -16,6 +17,13 @@ namespace Host
 		FStringView TrimLine(FStringView Line)
 		{
 			return Line.TrimStartAndEnd();
+		}
+
+		/** Whether a redirect stays at a server: it names that one, or a path alone. */
+		bool StaysAt(const FString& Server, const FString& Location)
+		{
+			const bool bPath = Location.StartsWith(TEXT("/")) && !Location.StartsWith(TEXT("//")) && !Location.StartsWith(TEXT("/\\"));
+			return bPath || FindServer(Location).Equals(Server, ESearchCase::CaseSensitive);
 		}
 	}
 
@@ -110,6 +118,13 @@ namespace Host
 		return Server.compare(Host, 4, "127.") == 0 || Server.compare(Host, 9, "localhost") == 0 || Server.compare(Host, 5, "[::1]") == 0;
 	}
 
+	bool FCurlHandle::SendsContentOn() const
+	{
+		long Code = 0;
+		curl_easy_getinfo(Easy, CURLINFO_RESPONSE_CODE, &Code);
+		return Transfer->Body.Num() > 0 && (Code == 307 || Code == 308);
+	}
+
 	size_t FCurlHandle::Refuse(const TCHAR* Reason)
 	{
 		OwnReason = Reason;
@@ -140,7 +155,13 @@ namespace Host
 		if (Line.FindChar(TEXT(':'), Colon))
 		{
 			const FStringView View(Line);
-			Self.Transfer->ResponseHeaders.Emplace(FString(TrimLine(View.Left(Colon))), FString(TrimLine(View.RightChop(Colon + 1))));
+			const FString Name(TrimLine(View.Left(Colon)));
+			const FString Value(TrimLine(View.RightChop(Colon + 1)));
+			if (Name.Equals(TEXT("Location"), ESearchCase::IgnoreCase) && Self.SendsContentOn() && !StaysAt(FString(UTF8_TO_TCHAR(Self.Transfer->Server.c_str())), Value))
+			{
+				return Self.Refuse(TEXT("a redirect would hand the content of the request to another server"));
+			}
+			Self.Transfer->ResponseHeaders.Emplace(Name, Value);
 		}
 		return Bytes;
 	}

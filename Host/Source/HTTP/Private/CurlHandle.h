@@ -35,6 +35,8 @@ namespace Host
 		static int ReceiveProgress(void* User, curl_off_t Total, curl_off_t Received, curl_off_t ToSend, curl_off_t Sent);
 
 		void TellProgress();
+		/** The answer that is coming is a redirect that the content of the request goes along with. */
+		bool SendsContentOn() const;
 		/** Ends the transfer with a reason of our own. */
 		size_t Refuse(const TCHAR* Reason);
 

@@ -5,6 +5,7 @@
 
 void UUserListener::ListenTo(UHalvexUser& User)
 {
+	ListenedTo = &User;
 	User.OnLoginResult.AddDynamic(this, &UUserListener::ReceiveResult);
 	User.OnUserLogged.AddDynamic(this, &UUserListener::ReceiveLogged);
 	User.OnUserLogout.AddDynamic(this, &UUserListener::ReceiveLogout);
@@ -21,6 +22,10 @@ void UUserListener::ReceiveResult(bool bSuccess, FLoginInfo LoginInfo)
 	++NumResults;
 	LastResult = LoginInfo;
 	Write(TEXT("result"), bSuccess, LoginInfo);
+	if (bSuccess && bSignOutAtOnce)
+	{
+		ListenedTo->RequestUserLogout();
+	}
 }
 
 void UUserListener::ReceiveLogged(bool bSuccess, FLoginInfo LoginInfo)

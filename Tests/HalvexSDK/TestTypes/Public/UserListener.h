@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "UObject/Object.h"
+#include "UObject/WeakObjectPtr.h"
 #include "User/LoginInfo.h"
 #include "UserListener.generated.h"
 
@@ -30,6 +31,9 @@ public:
 
 	const FString& GetEvents() const { return Events; }
 
+	/** Signs out as soon as somebody is signed in. */
+	bool bSignOutAtOnce = false;
+
 	int32 NumResults = 0;
 	FLoginInfo LastResult;
 
@@ -37,4 +41,5 @@ private:
 	void Write(const TCHAR* Event, bool bSuccess, const FLoginInfo& LoginInfo);
 
 	FString Events;
+	TWeakObjectPtr<UHalvexUser> ListenedTo;
 };

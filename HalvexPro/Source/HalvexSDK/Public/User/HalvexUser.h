@@ -35,7 +35,10 @@ public:
 	UPROPERTY(BlueprintAssignable, Category = "HalvexUser")
 	FHalvexLoginEvent OnLoginResult;
 
-	/** Comes after each login result, with the same, and when the data of the user who is signed in has changed. */
+	/**
+	 * Comes after each login result, with the same, unless somebody signed out in answer to that; and when the data of the user who
+	 * is signed in has changed.
+	 */
 	UPROPERTY(BlueprintAssignable, Category = "HalvexUser")
 	FHalvexLoginEvent OnUserLogged;
 
@@ -155,5 +158,5 @@ private:
 	int32 NextSignOut = 0;
 
 	/** Read when it is needed first, and anew for another service. */
-	mutable TUniquePtr<FHalvexRememberedUser> Remembered;
+	mutable TSharedPtr<FHalvexRememberedUser> Remembered;
 };

@@ -18,7 +18,7 @@ DECLARE_DELEGATE_ThreeParams(FHttpRequestProgressDelegate64, FHttpRequestPtr /*R
 /**
  * One request. Set up, then processed once; setting it up further while it is processed is a mistake. Used on the game
  * thread; the delegates are called there too, at the start of a tick. Only addresses of http and https are processed, and
- * redirects lead to such ones only, from https to https only.
+ * redirects lead to such ones only, from https to https only, and never take content or authorisation to another server.
  */
 class IHttpRequest : public IHttpBase, public TSharedFromThis<IHttpRequest, ESPMode::ThreadSafe>
 {
