@@ -364,7 +364,10 @@ namespace
 	std::string ReadSavedFiles()
 	{
 		std::string Text;
-		for (const auto& Entry : std::filesystem::recursive_directory_iterator(TCHAR_TO_UTF8(*FPaths::ProjectSavedDir())))
+		// Made with the first file.
+		const std::filesystem::path Folder = TCHAR_TO_UTF8(*FPaths::ProjectSavedDir());
+		std::filesystem::create_directories(Folder);
+		for (const auto& Entry : std::filesystem::recursive_directory_iterator(Folder))
 		{
 			Text += Entry.path().string() + "\n";
 			if (Entry.is_regular_file())

@@ -90,8 +90,8 @@ namespace
 		Unit.Orientation = EUnitOrientation::SouthWest;
 		Unit.Status = EUnitStatus::Reserved;
 		EXPECT_EQ(Write({ Unit }),
-			"id,name,building,type,view,image,currency,level,rooms,baths,area,outdoorArea,price,orientation,status\r\n"
-			"HH-101,Harbour 1.01,harbour,,,,EUR,-1,3,0,49.7,0,420000,SouthWest,Reserved\r\n");
+			"id,name,building,type,view,image,interior,currency,level,rooms,baths,area,outdoorArea,price,orientation,status\r\n"
+			"HH-101,Harbour 1.01,harbour,,,,,EUR,-1,3,0,49.7,0,420000,SouthWest,Reserved\r\n");
 	}
 
 	TEST_F(FUnitTableWriterTest, CellsWithSeparatorsQuotesAndLineBreaksStandInQuotes)
