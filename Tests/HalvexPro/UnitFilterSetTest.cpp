@@ -230,6 +230,19 @@ namespace
 		EXPECT_EQ(GetProblems(TEXT(R"({ "format": "unit-filters", "version": 1 })"), 0), "set.json: filters: expected a list of filters");
 	}
 
+	TEST_F(FUnitFilterSetTest, TextThatIsCutAnywhereIsOneProblem)
+	{
+		const FString Whole = FUnitFilterSetFile::ToJson(MakeSet(TEXT("A")));
+		for (int32 Length = 0; Length < Whole.Len(); ++Length)
+		{
+			FReadProblems Problems(TEXT("cut.json"));
+			FUnitFilterSet Set;
+			EXPECT_FALSE(FUnitFilterSetFile::FromJson(Whole.Left(Length), Set, Problems)) << Length;
+			EXPECT_EQ(Problems.Num(), 1) << Length;
+			EXPECT_TRUE(Set.Filters.IsEmpty());
+		}
+	}
+
 	TEST_F(FUnitFilterSetTest, SetsGoOutAndComeInAsFiles)
 	{
 		const FString Path = FPaths::ProjectSavedDir() / TEXT("Shared/for you");

@@ -1,8 +1,10 @@
 #include "UnitFiltersScreenTest.h"
 
 #include "Components/CheckBox.h"
+#include "Components/ListView.h"
 #include "Filters/UnitsFilterManager.h"
 #include "UnitVolumes/UnitVolumeActor.h"
+#include "UserWidget/Exteriors/HxExteriorUnitListObject.h"
 
 namespace
 {
@@ -85,6 +87,7 @@ namespace
 		Enter(TEXT("Level/To"), TEXT("3.4"));
 		EXPECT_EQ(GetText(TEXT("Level/To")), "3") << "levels are whole";
 		Enter(TEXT("Area/From"), TEXT("60,5 m²"));
+		EXPECT_EQ(GetText(TEXT("Area/From")), "60.5");
 		Enter(TEXT("Price/To"), TEXT("none"));
 		EXPECT_EQ(GetText(TEXT("Price/To")), "275 000") << "what is no number changes nothing";
 	}
@@ -238,6 +241,30 @@ namespace
 		Click(TEXT("Reset"));
 		EXPECT_FALSE(Driver.Find(TEXT("Filters/NothingText")));
 		EXPECT_EQ(GetListed().Num(), 262);
+	}
+
+	TEST_F(FUnitFiltersScreenTest, OrderSearchAndSelectionOutlastAChangeOfTheFilters)
+	{
+		ShowFilters();
+		Click(TEXT("SortBox"));
+		Click(TEXT("text:Price#2"));
+		Click(TEXT("SearchBox"));
+		Driver.Type(TEXT("wharf"));
+		Driver.ClickAt(FVector2D(200.0, 280.0));
+		Settle();
+		ASSERT_EQ(Manager->GetSelectedUnitVolumes().Num(), 1);
+		const FString Selected = Manager->GetSelectedUnitVolumes()[0]->GetUnitData().Name;
+		Enter(TEXT("Level/To"), TEXT("10"));
+		Settle();
+		const TArray<FUnitData> Listed = GetListed();
+		EXPECT_EQ(Listed.Num(), CountUnits([](const FUnitData& Unit) { return Unit.Level <= 10 && Unit.Building == TEXT("wharf"); }));
+		for (int32 Index = 1; Index < Listed.Num(); ++Index)
+		{
+			EXPECT_LE(Listed[Index - 1].Price, Listed[Index].Price);
+		}
+		const UHxExteriorUnitListObject* const Item = CastChecked<UListView>(Driver.Find(TEXT("ListViewContainer")))->GetSelectedItem<UHxExteriorUnitListObject>();
+		ASSERT_TRUE(Item);
+		EXPECT_EQ(Item->UnitVolumeActorRef->GetUnitData().Name, Selected);
 	}
 
 	TEST_F(FUnitFiltersScreenTest, EverythingCanBeDoneByTheKeyboard)

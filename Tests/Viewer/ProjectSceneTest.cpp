@@ -319,6 +319,57 @@ TEST_F(FProjectSceneTest, UnitsAreShownBesideWhatCoversTheSides)
 	}
 }
 
+/** A panel that covers the right side of the window. */
+static TSharedRef<SWidget> MakeRightPanel()
+{
+	return SNew(SBox)
+		.HAlign(HAlign_Right)
+		.Visibility(EVisibility::SelfHitTestInvisible)
+		[
+			SNew(SButton)
+			[
+				SNew(SBox).WidthOverride(350.0f)
+			]
+		];
+}
+
+TEST_F(FProjectSceneTest, TheCameraFollowsPanelsThatComeAndGo)
+{
+	Scene->FrameBesideScreens();
+	const FSceneCamera::FPose Whole = Scene->GetViewport().GetCamera().GetGoal();
+	const TSharedRef<SWidget> Panel = MakeRightPanel();
+	GEngine->GameViewport->AddViewportWidgetContent(Panel);
+	Manager().AnnouncePanelChange();
+	Loop.RunUntilIdle();
+	for (const AUnitVolumeActor* Unit : Manager().GetUnitVolumes())
+	{
+		EXPECT_LT(Locate(Unit).X, 450.0) << ToStd(Unit->GetUnitData().Name);
+	}
+
+	GEngine->GameViewport->RemoveViewportWidgetContent(Panel);
+	Manager().AnnouncePanelChange();
+	Loop.RunUntilIdle();
+	EXPECT_TRUE(Scene->GetViewport().GetCamera().GetGoal() == Whole);
+}
+
+TEST_F(FProjectSceneTest, PanelsLeaveACameraAloneThatSomeoneMoved)
+{
+	Scene->FrameBesideScreens();
+	Scene->GetViewport().MoveCamera([](FSceneCamera& Camera) { Camera.Orbit(20.0, 0.0); });
+	Loop.RunUntilIdle();
+	const FSceneCamera::FPose Moved = Scene->GetViewport().GetCamera().GetGoal();
+	GEngine->GameViewport->AddViewportWidgetContent(MakeRightPanel());
+	Manager().AnnouncePanelChange();
+	Loop.RunUntilIdle();
+	EXPECT_TRUE(Scene->GetViewport().GetCamera().GetGoal() == Moved);
+	Scene->GetViewport().FrameAll();
+	Loop.RunUntilIdle();
+	for (const AUnitVolumeActor* Unit : Manager().GetUnitVolumes())
+	{
+		EXPECT_LT(Locate(Unit).X, 450.0) << "but when all is framed again, the panel counts";
+	}
+}
+
 TEST_F(FProjectSceneTest, AProjectThatCannotBeReadIsOneLine)
 {
 	FProjectData Project;

@@ -2,6 +2,7 @@
 
 local Kit = Import("/HalvexPro/Shared/Kit")
 local Controls = Import("/HalvexPro/Shared/Controls")
+local Managers = Class("/Script/HalvexPro.UnitVolumesManager")
 
 local function ShowOrder(self)
 	self.OrderIcon:SetIconByHandler({
@@ -27,6 +28,38 @@ function OnRefreshListViewNum(self)
 	local Count = self.ListViewContainer:GetNumItems()
 	self.CountText:SetText(Count .. (Count == 1 and " unit" or " units"))
 	self.NothingText:SetVisibility(Count == 0 and "HitTestInvisible" or "Collapsed")
+end
+
+-- So many units are ordered while a handle moves; more wait until it rests.
+local OrderedAtOnce = 2000
+
+local function KeepNow(self)
+	if self.SortKey ~= "Name" or self.Descending then
+		ShowOrder(self)
+	end
+	local Sought = self.SearchBox:GetText()
+	if Sought ~= "" then
+		self:FilterUnitList(Sought)
+	end
+	local Manager = Managers:GetUnitVolumesManager(self)
+	if Manager then
+		self:ReceivedUnitVolumeSelectionChange(Manager:GetSelectedUnitVolumes())
+	end
+end
+
+-- New filters show their units in the scene's order, without the search and with nothing selected: this brings all that back.
+function KeepView(self)
+	if self.ListViewContainer:GetNumItems() <= OrderedAtOnce then
+		KeepNow(self)
+		return
+	end
+	self.Changes = self.Changes + 1
+	local Change = self.Changes
+	Delay(self, 0.3, function()
+		if self.Changes == Change then
+			KeepNow(self)
+		end
+	end)
 end
 
 function OnInitialized(self)

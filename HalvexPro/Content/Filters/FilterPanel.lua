@@ -41,7 +41,7 @@ function OnFilterDataUpdated(self, Passing, Total)
 	end
 	ShowChips(self)
 	if self.Screen then
-		self.Screen:ShowActive()
+		self.Screen:FiltersChanged()
 	end
 end
 

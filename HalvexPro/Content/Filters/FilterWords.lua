@@ -11,12 +11,17 @@ local Directions = {
 	NorthWest = "North-west",
 }
 
--- A number of a range, without its unit of measure.
+-- A number of a range to a tenth, without its unit of measure.
 function Number(Component, Value)
 	if Component.Field == "Level" and Value == 0 then
 		return "Ground floor"
 	end
-	return Value < 0 and "-" .. Money.Group(-Value) or Money.Group(Value)
+	local Tenths = math.floor(math.abs(Value) * 10 + 0.5)
+	local Text = Money.Group(Tenths // 10)
+	if Tenths % 10 > 0 then
+		Text = Text .. "." .. Tenths % 10
+	end
+	return Value < 0 and "-" .. Text or Text
 end
 
 -- The same with its unit of measure.

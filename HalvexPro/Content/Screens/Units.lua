@@ -16,6 +16,10 @@ local function ShowFilters(self, Shown)
 	}
 	self.UnitList.FiltersButton:UpdateStyle()
 	self:ShowActive()
+	local Manager = self.Filters.UnitVolumesManager
+	if Manager then
+		Manager:AnnouncePanelChange()
+	end
 end
 
 -- What the filters ask for stands in their panel, or over the list while that is closed.
@@ -23,6 +27,12 @@ function ShowActive(self)
 	local Active = self.Filters.NumActive
 	self.UnitList.ActiveFilters:SetVisibility(Active > 0 and not self.FiltersShown and "SelfHitTestInvisible" or "Collapsed")
 	self.UnitList.FiltersText:SetText(Active > 0 and "Filters · " .. Active or "Filters")
+end
+
+-- The panel tells of a new result, which the list shows already.
+function FiltersChanged(self)
+	self.UnitList:KeepView()
+	self:ShowActive()
 end
 
 function OnInitialized(self)

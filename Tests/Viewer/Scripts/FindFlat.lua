@@ -7,10 +7,10 @@ end
 Expect(Listed() == 262, "the sample project is not all there")
 
 Click("FiltersButton")
-Click("Price/To")
+Focus("Price/To")
 Type("500k")
 Key("Enter")
-Click("Level/From")
+Focus("Level/From")
 Type("3")
 Key("Tab")
 Type("5")
@@ -28,6 +28,8 @@ Expect(Count("ActiveFilters/Label") == 3, "the list tells of the filters while t
 
 Click("SortBox")
 Click("text:Price")
+Wait(2)
+Picture("filtered.png")
 Click(200, 320)
 Wait(2)
 Picture("found.png")

@@ -96,6 +96,13 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
 	TArray<AUnitVolumeActor*> GetSelectedUnitVolumes() const { return ObjectPtrDecay(Selection); }
 
+	/** For views of the scene: panels over it came or went, so that other parts of it may be seen. */
+	FSimpleMulticastDelegate OnPanelsChanged;
+
+	/** For screens over the scene: to be called when one of their panels was opened or closed. */
+	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
+	void AnnouncePanelChange() { OnPanelsChanged.Broadcast(); }
+
 	/** Tells what the groups are called that units belong to. */
 	UFUNCTION(BlueprintCallable, Category = "UnitVolumesManager")
 	void SetUnitGroups(const TArray<FProjectGroup>& Groups);

@@ -15,6 +15,7 @@
 #include "Misc/Paths.h"
 #include "Project/ProjectReader.h"
 #include "Project/UnitTableReader.h"
+#include "TimerManager.h"
 #include "UnitVolumes/UnitVolumesManager.h"
 #include "Widgets/SWindow.h"
 
@@ -133,6 +134,8 @@ namespace Host
 		Configurator->OnRoomsShown.AddRaw(this, &FProjectScene::ReceivedRooms);
 		Configurator->Bind(Project, *Manager, WindowRenderer);
 		StyleHandle = UHalvexUISubsystem::Get()->OnSettingsRefreshed().AddRaw(this, &FProjectScene::RefreshStyle);
+		Framed = Viewport->GetCamera().GetGoal();
+		Manager->OnPanelsChanged.AddRaw(this, &FProjectScene::ReceivedPanelChange);
 	}
 
 	FProjectScene::~FProjectScene()
@@ -141,6 +144,8 @@ namespace Host
 		{
 			Style->OnSettingsRefreshed().Remove(StyleHandle);
 		}
+		Manager->OnPanelsChanged.RemoveAll(this);
+		Manager->GetWorld()->GetTimerManager().ClearTimer(PanelTimer);
 		GetMutableDefault<UHalvexImageSettings>()->FurtherImageFolders.RemoveSingle(ImageFolder);
 		Configurator->Unbind();
 		Spots->Unbind();
@@ -164,8 +169,35 @@ namespace Host
 		}
 		else if (FindCoveredSides(Viewport.ToSharedRef()))
 		{
-			Viewport->FrameAll();
+			FrameAll();
 			Viewport->MoveCamera([](FSceneCamera& Camera) { Camera.Finish(); });
+		}
+	}
+
+	void FProjectScene::FrameAll()
+	{
+		Viewport->FrameAll();
+		Framed = Viewport->GetCamera().GetGoal();
+	}
+
+	void FProjectScene::ReceivedPanelChange()
+	{
+		// The panel is painted in the frame that comes; what it covers is known in the one after that.
+		FTimerManager& Timers = Manager->GetWorld()->GetTimerManager();
+		Timers.ClearTimer(PanelTimer);
+		PanelTimer = Timers.SetTimerForNextTick(FTimerDelegate::CreateLambda([this, &Timers]
+		{
+			PanelTimer = Timers.SetTimerForNextTick(FTimerDelegate::CreateLambda([this] { FollowPanels(); }));
+		}));
+	}
+
+	void FProjectScene::FollowPanels()
+	{
+		const bool bAsFramed = Viewport->GetCamera().GetGoal() == Framed;
+		// Rooms that are shown in place of the units frame themselves.
+		if (!Configurator->GetViewport() && FindCoveredSides(Viewport.ToSharedRef()) && bAsFramed)
+		{
+			FrameAll();
 		}
 	}
 

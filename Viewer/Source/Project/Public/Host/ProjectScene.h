@@ -1,7 +1,9 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Engine/TimerHandle.h"
 #include "Host/SSceneViewport.h"
+#include "Host/SceneCamera.h"
 #include "Project/ProjectData.h"
 #include "UObject/StrongObjectPtr.h"
 
@@ -39,7 +41,10 @@ namespace Host
 		/** Tells screens that came after the units of them. */
 		void AnnounceUnits();
 
-		/** Shows all units, or all of the rooms, in what the screens over the scene leave free at its sides, as they were painted last. */
+		/**
+		 * Shows all units, or all of the rooms, in what the screens over the scene leave free at its sides, as they were painted last.
+		 * When a panel comes or goes later, the camera over the units follows by itself, unless it was moved in the meantime.
+		 */
 		void FrameBesideScreens();
 
 		/** To be called when the style was changed; it is when another one was chosen. */
@@ -53,6 +58,9 @@ namespace Host
 
 	private:
 		void ReceivedRooms(bool bShown);
+		void FrameAll();
+		void ReceivedPanelChange();
+		void FollowPanels();
 
 		TStrongObjectPtr<AUnitVolumesManager> Manager;
 		TStrongObjectPtr<UUnitSceneBinding> Binding;
@@ -62,5 +70,8 @@ namespace Host
 		FString ImageFolder;
 		FDelegateHandle StyleHandle;
 		TSharedPtr<SSceneViewport> Viewport;
+		/** Where the camera was sent when all units were framed last. */
+		FSceneCamera::FPose Framed;
+		FTimerHandle PanelTimer;
 	};
 }
