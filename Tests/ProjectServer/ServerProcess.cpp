@@ -8,9 +8,9 @@
 #include <csignal>
 #include <cstdlib>
 
-FServerProcess::FServerProcess(const std::filesystem::path& Home, const std::vector<std::string>& Arguments, const std::string& Input)
+FServerProcess::FServerProcess(const std::filesystem::path& Home, const std::vector<std::string>& Arguments, const std::string& Input, const std::string& Program)
 {
-	std::vector<std::string> All = { HALVEX_PROJECT_SERVER };
+	std::vector<std::string> All = { Program };
 	All.insert(All.end(), Arguments.begin(), Arguments.end());
 	std::vector<char*> Pointers;
 	for (std::string& Argument : All)

@@ -6,12 +6,12 @@
 #include <string>
 #include <vector>
 
-/** HalvexProjectServer as a process of its own, which reaches nothing of the user who runs the test. */
+/** A program as a process of its own, which reaches nothing of the user who runs the test; the server unless told otherwise. */
 class FServerProcess
 {
 public:
 	/** @param Home where it keeps what it keeps for its user */
-	FServerProcess(const std::filesystem::path& Home, const std::vector<std::string>& Arguments, const std::string& Input = std::string());
+	FServerProcess(const std::filesystem::path& Home, const std::vector<std::string>& Arguments, const std::string& Input = std::string(), const std::string& Program = HALVEX_PROJECT_SERVER);
 	~FServerProcess();
 	FServerProcess(const FServerProcess&) = delete;
 	FServerProcess& operator=(const FServerProcess&) = delete;

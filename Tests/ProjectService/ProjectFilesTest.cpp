@@ -128,7 +128,7 @@ TEST_F(FServedFilesTest, AnEmptyFileIsGivenAndATooLargeOneIsNot)
 	EXPECT_EQ("text/csv", Header(Empty, TEXT("Content-Type")));
 	Folder.Write("huge.png", "");
 	std::filesystem::resize_file(Folder.Path / "huge.png", 64ll * 1024 * 1024 + 1);
-	const Host::FExpectedLog Line(TEXT("huge.png: the file has 67108865 bytes"));
+	const Host::FExpectedLog Line(TEXT("huge.png: has 67108865 bytes"));
 	EXPECT_EQ("500 internal", Get("/huge.png"));
 }
 

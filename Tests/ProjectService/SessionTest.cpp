@@ -314,6 +314,16 @@ TEST_F(FSessionTest, ARememberedSignInIsKnownToTheNextServiceWhenAsked)
 	EXPECT_FALSE(Kept.Contains(UTF8_TO_TCHAR(RefreshToken.c_str())));
 }
 
+TEST_F(FSessionTest, ServicesThatKeepTheirSessionsInOnePlaceLoseNone)
+{
+	FTestService One(Folder, true);
+	FTestService Other(Folder, true);
+	const std::string OfOne = Get(One.SignIn("Anna", "right-password", true), "refreshToken");
+	const std::string OfOther = Get(Other.SignIn("ben", "other-password", true), "refreshToken");
+	EXPECT_EQ("200", Describe(Other.Refresh(OfOne)));
+	EXPECT_EQ("200", Describe(One.Refresh(OfOther)));
+}
+
 TEST_F(FSessionTest, NothingSecretIsLogged)
 {
 	FEverythingLogged Log;

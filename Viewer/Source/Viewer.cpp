@@ -13,6 +13,7 @@
 #include "Host/FontServices.h"
 #include "Host/PictureCompare.h"
 #include "HAL/PlatformProcess.h"
+#include "Host/ProjectConnection.h"
 #include "Host/ProjectLoader.h"
 #include "Host/ProjectScene.h"
 #include "Host/SSceneViewport.h"
@@ -112,6 +113,7 @@ int32 FViewer::Run()
 	}
 	Scene.Reset();
 	Project.Reset();
+	Connection.Reset();
 	Loop.Exit();
 	return ExitCode == 0 && Options.bHeadless && Errors.NumErrors > 0 ? 1 : ExitCode;
 }
@@ -211,6 +213,7 @@ void FViewer::ShowProject()
 	// Without its screen the sample would be behind the gallery, where nobody sees it.
 	const bool bSample = Options.bSampleProject && ViewerScreens::List().Contains(UnitsScreen);
 	const FString Source = bSample ? FString(TEXT(HALVEX_SAMPLE_PROJECT)) : Options.Project;
+	ConnectUsers(Source);
 	FProjectData Data;
 	if (FProjectAddress::IsAddress(Source))
 	{
@@ -220,6 +223,15 @@ void FViewer::ShowProject()
 	else if (!Source.IsEmpty() && Host::FProjectScene::Load(Source, Data, Options.UnitsMap))
 	{
 		PlaceProject(Data);
+	}
+}
+
+void FViewer::ConnectUsers(const FString& Source)
+{
+	if (!Options.bNoProject)
+	{
+		// Screens that are shown without a project have users to sign in, too.
+		Connection = MakeUnique<Host::FProjectConnection>(Source.IsEmpty() ? FString(TEXT(HALVEX_SAMPLE_PROJECT)) : Source);
 	}
 }
 

@@ -14,6 +14,7 @@ struct FProjectData;
 
 namespace Host
 {
+	class FProjectConnection;
 	class FProjectScene;
 	class SSceneViewport;
 }
@@ -51,6 +52,8 @@ private:
 	void ShowScene();
 	/** Shows the project under all screens, if it can be read. One at an address is begun to be fetched. */
 	void ShowProject();
+	/** Lets the users of the project sign in. */
+	void ConnectUsers(const FString& Source);
 	/** Puts a project under all screens. */
 	void PlaceProject(const FProjectData& Data);
 	/** Shows the project that came from its address, with its screen. */
@@ -79,6 +82,8 @@ private:
 	TSharedPtr<Host::SSceneViewport> Scene;
 	/** Set while a project is shown; gone before the engine stops. */
 	TUniquePtr<Host::FProjectScene> Project;
+	/** Where users sign in; gone before the engine stops. */
+	TUniquePtr<Host::FProjectConnection> Connection;
 	/** Set while a project is on its way; gone before the engine stops. */
 	TStrongObjectPtr<UProjectLoader> Loader;
 	/** Set until the scene is shown beside a screen that came in the middle of a frame. */

@@ -82,6 +82,7 @@ EViewerStart ReadViewerOptions(int ArgumentCount, char** Arguments, FViewerOptio
 	OutOptions.Scene = ToFString(Scene);
 	OutOptions.Project = Project == "none" ? FString() : ToFString(Project);
 	OutOptions.UnitsMap = ToFString(UnitsMap);
+	OutOptions.bNoProject = Project == "none";
 	OutOptions.bSampleProject = Project.empty() && Screen.empty() && Scene.empty() && !OutOptions.bDesign && !OutOptions.bListScreens;
 	OutOptions.Style = ToFString(Style);
 	OutOptions.Screenshot = ToFString(Screenshot);

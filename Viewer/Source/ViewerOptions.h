@@ -12,6 +12,8 @@ struct FViewerOptions
 	FString Scene;
 	/** Folder, address or sales list of the building project to show under the screen; empty for none. */
 	FString Project;
+	/** No project was wanted, not even for its users. */
+	bool bNoProject = false;
 	/** File that maps the columns of the sales list; empty to look for one beside it. */
 	FString UnitsMap;
 	/** Show the sample project when the screen of units comes up and no project was named. */

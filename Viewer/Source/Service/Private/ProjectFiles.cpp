@@ -1,23 +1,18 @@
 #include "ProjectFiles.h"
 
 #include "Containers/StringConv.h"
+#include "Host/FolderFiles.h"
 #include "Host/ProjectUsers.h"
 #include "Misc/Paths.h"
 #include "ServiceLog.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstring>
+#include <algorithm>
 #include <string>
-#include <vector>
 
 namespace
 {
 	/** Larger than any picture of a project. */
-	constexpr off_t MaxFileBytes = 64 * 1024 * 1024;
+	constexpr int64 MaxFileBytes = 64 * 1024 * 1024;
 
 	int ReadDigit(char Digit)
 	{
@@ -64,59 +59,21 @@ namespace
 		return !FString(UTF8_TO_TCHAR(Name.c_str())).StartsWith(Host::FProjectUsers::FileName, ESearchCase::IgnoreCase);
 	}
 
-	std::vector<std::string> Split(const std::string& Path)
+	/** The names between the slashes; false when one of them leads nowhere. */
+	bool Split(const std::string& Path, TArray<FString>& OutNames)
 	{
-		std::vector<std::string> Names;
 		for (size_t Start = 1; Start <= Path.size();)
 		{
 			const size_t End = std::min(Path.find('/', Start), Path.size());
-			Names.push_back(Path.substr(Start, End - Start));
-			Start = End + 1;
-		}
-		return Names;
-	}
-
-	/** An open file or folder, closed at the end. */
-	class FHandle
-	{
-	public:
-		explicit FHandle(int InValue) : Value(InValue) {}
-		~FHandle() { Reset(-1); }
-		FHandle(const FHandle&) = delete;
-		FHandle& operator=(const FHandle&) = delete;
-
-		int Get() const { return Value; }
-		void Reset(int NewValue)
-		{
-			if (Value >= 0)
-			{
-				close(Value);
-			}
-			Value = NewValue;
-		}
-
-	private:
-		int Value;
-	};
-
-	bool ReadWhole(int File, TArray<uint8>& OutBytes)
-	{
-		int32 Count = 0;
-		while (Count < OutBytes.Num())
-		{
-			const ssize_t Part = read(File, OutBytes.GetData() + Count, SIZE_T(OutBytes.Num() - Count));
-			if (Part < 0 && errno != EINTR)
+			const std::string Name = Path.substr(Start, End - Start);
+			if (!IsGivenOut(Name))
 			{
 				return false;
 			}
-			if (Part == 0)
-			{
-				break;
-			}
-			Count += Part > 0 ? int32(Part) : 0;
+			OutNames.Add(UTF8_TO_TCHAR(Name.c_str()));
+			Start = End + 1;
 		}
-		OutBytes.SetNum(Count);
-		return true;
+		return !Path.empty() && Path[0] == '/' && OutNames.Num() > 0 && Path.back() != '/';
 	}
 }
 
@@ -127,40 +84,24 @@ Host::FProjectFiles::EFind Host::FProjectFiles::Read(const FString& Folder, cons
 	{
 		return EFind::Malformed;
 	}
-	const std::vector<std::string> Names = Split(Path);
-	if (Path.empty() || Path[0] != '/' || Names.empty())
+	TArray<FString> Names;
+	if (!Split(Path, Names))
 	{
 		return EFind::Absent;
 	}
-	FHandle Handle(open(TCHAR_TO_UTF8(*Folder), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-	for (size_t Index = 0; Index < Names.size(); ++Index)
+	OutName = Names.Last();
+	FString Reason;
+	switch (FFolderFiles::Read(Folder, Names, MaxFileBytes, OutBytes, Reason))
 	{
-		if (!IsGivenOut(Names[Index]) || Handle.Get() < 0)
-		{
-			return EFind::Absent;
-		}
-		// Step by step, so that no link on the way leads out. Without waiting, as a pipe would.
-		const int Kind = Index + 1 < Names.size() ? O_DIRECTORY : O_NONBLOCK;
-		Handle.Reset(openat(Handle.Get(), Names[Index].c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC | Kind));
-	}
-	struct stat Status;
-	if (Handle.Get() < 0 || fstat(Handle.Get(), &Status) != 0 || !S_ISREG(Status.st_mode))
-	{
+	case FFolderFiles::ERead::Read:
+		return EFind::Found;
+	case FFolderFiles::ERead::Absent:
 		return EFind::Absent;
+	case FFolderFiles::ERead::Failed:
+		break;
 	}
-	OutName = FString(UTF8_TO_TCHAR(Names.back().c_str()));
-	if (Status.st_size > MaxFileBytes)
-	{
-		UE_LOG(LogService, Warning, TEXT("%s: the file has %lld bytes, at most %lld are given out"), *(Folder / OutName), int64(Status.st_size), int64(MaxFileBytes));
-		return EFind::Failed;
-	}
-	OutBytes.SetNumUninitialized(int32(Status.st_size));
-	if (!ReadWhole(Handle.Get(), OutBytes))
-	{
-		UE_LOG(LogService, Warning, TEXT("%s: the file cannot be read: %s"), *(Folder / OutName), UTF8_TO_TCHAR(std::strerror(errno)));
-		return EFind::Failed;
-	}
-	return EFind::Found;
+	UE_LOG(LogService, Warning, TEXT("%s/%s: %s"), *Folder, *FString::Join(Names, TEXT("/")), *Reason);
+	return EFind::Failed;
 }
 
 const TCHAR* Host::FProjectFiles::GetContentType(const FString& Name)

@@ -110,11 +110,6 @@ struct Host::FProjectService::FImplementation
 		, Sessions(InSettings.TokenSeconds, InSettings.RefreshSeconds)
 		, Attempts(InSettings.MaxAttemptsForUser, InSettings.MaxAttemptsFromAddress, InSettings.AttemptSeconds)
 	{
-		FString Kept;
-		if (Settings.bKeepSessions && FPlatformMisc::GetStoredValue(StoreId, GetSection(), SessionsKey, Kept))
-		{
-			Sessions.ReadRemembered(Kept, GetTime());
-		}
 	}
 
 	double GetTime() const { return Settings.Clock ? Settings.Clock() : GetSystemTime(); }
@@ -134,6 +129,8 @@ struct Host::FProjectService::FImplementation
 	/** The user behind a session; false when there is none any more. */
 	bool FindUser(const FServiceSessions::FUser& Session, FProjectUser& OutUser);
 	FServiceResponse MakeSession(const FProjectUser& User, bool bGuest, const FServiceSessions::FTokens& Tokens) const;
+	/** Takes over what is kept of remembered sign-ins, which another program over the same project may have changed. */
+	void ReadSessions();
 	void KeepSessions();
 
 	const FProjectServiceSettings Settings;
@@ -258,6 +255,7 @@ FServiceResponse Host::FProjectService::FImplementation::SignIn(const FServiceRe
 		return ServiceAnswers::MakeError(401, TEXT("invalid_credentials"), TEXT("The user name or the password is wrong."));
 	}
 	Attempts.Forgive(UserName, Request.ClientAddress);
+	ReadSessions();
 	const FServiceSessions::FTokens Tokens = Sessions.Begin({ User.Id, false }, bRemember, GetTime());
 	KeepSessions();
 	return MakeSession(User, false, Tokens);
@@ -288,6 +286,7 @@ FServiceResponse Host::FProjectService::FImplementation::Refresh(const FServiceR
 	FServiceSessions::FUser Session;
 	FServiceSessions::FTokens Tokens;
 	FProjectUser User;
+	ReadSessions();
 	const bool bRefreshed = Sessions.Refresh(RefreshToken, GetTime(), Session, Tokens);
 	const bool bKnown = bRefreshed && FindUser(Session, User);
 	if (bRefreshed && !bKnown)
@@ -318,6 +317,7 @@ FServiceResponse Host::FProjectService::FImplementation::SignOut(const FServiceR
 	}
 	// A token that has run out meanwhile is as void as was asked for, and what else came with it still must become so.
 	const std::scoped_lock Lock(Mutex);
+	ReadSessions();
 	Sessions.End(Token, RefreshToken);
 	KeepSessions();
 	Response.Status = 204;
@@ -421,6 +421,15 @@ FServiceResponse Host::FProjectService::FImplementation::MakeSession(const FProj
 	WriteUser(User, bGuest, Writer);
 	Writer.EndObject();
 	return ServiceAnswers::MakeJson(Writer);
+}
+
+void Host::FProjectService::FImplementation::ReadSessions()
+{
+	FString Kept;
+	if (Settings.bKeepSessions && FPlatformMisc::GetStoredValue(StoreId, GetSection(), SessionsKey, Kept))
+	{
+		Sessions.ReadRemembered(Kept, GetTime());
+	}
 }
 
 void Host::FProjectService::FImplementation::KeepSessions()

@@ -200,6 +200,7 @@ void Host::FServiceSessions::ReadRemembered(const FString& Text, double Now)
 	{
 		return;
 	}
+	Families.Empty();
 	for (const FJsonNode Node : Document.GetRoot())
 	{
 		FString Key;

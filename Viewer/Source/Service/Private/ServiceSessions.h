@@ -40,7 +40,10 @@ namespace Host
 		/** Makes both void, and with the refresh token its family; either may be empty or unknown. */
 		void End(const FString& Token, const FString& RefreshToken);
 
-		/** The remembered sign-ins as a JSON text, and back; what is wrong in a text is left out. */
+		/**
+		 * The remembered sign-ins as a JSON text, and back: those of a text replace the ones that there are. What is wrong in a
+		 * text is left out; one that is no JSON changes nothing.
+		 */
 		FString WriteRemembered() const;
 		void ReadRemembered(const FString& Text, double Now);
 		/** Whether what WriteRemembered gives has changed since it was last asked. */

@@ -1,67 +1,18 @@
 #include "Host/Files.h"
 
-#include "HAL/NativePath.h"
+#include "HAL/NativeFile.h"
 #include "Math/UnrealMathUtility.h"
 #include "Templates/UnrealTemplate.h"
 
-#include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <string>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
-	FString DescribeError(int Error)
-	{
-		return Host::FromNative(std::strerror(Error));
-	}
-
-	/** An open file, closed at the end. */
-	class FDescriptor
-	{
-	public:
-		explicit FDescriptor(int InValue) : Value(InValue) {}
-		~FDescriptor() { Close(); }
-		FDescriptor(const FDescriptor&) = delete;
-		FDescriptor& operator=(const FDescriptor&) = delete;
-
-		bool IsValid() const { return Value >= 0; }
-		int Get() const { return Value; }
-
-		/** Returns false when what was written may not have arrived. */
-		bool Close()
-		{
-			const int Closed = Value;
-			Value = -1;
-			return Closed < 0 || close(Closed) == 0;
-		}
-
-	private:
-		int Value;
-	};
-
-	bool WriteAll(int File, const char* Bytes, SIZE_T Size)
-	{
-		while (Size > 0)
-		{
-			const ssize_t Written = write(File, Bytes, Size);
-			if (Written < 0)
-			{
-				if (errno == EINTR)
-				{
-					continue;
-				}
-				return false;
-			}
-			Bytes += Written;
-			Size -= SIZE_T(Written);
-		}
-		return true;
-	}
+	using Host::FDescriptor;
 
 	/** The rights of a new file: those of the one it replaces, else those of any new file. */
 	mode_t ChooseMode(const std::string& Replaced)
@@ -115,7 +66,7 @@ namespace
 			return errno;
 		}
 		const bool bWritten = fchmod(Descriptor.Get(), ChooseMode(Target.native())) == 0
-			&& WriteAll(Descriptor.Get(), static_cast<const char*>(Bytes), Size)
+			&& Host::WriteAll(Descriptor.Get(), static_cast<const char*>(Bytes), Size)
 			&& fsync(Descriptor.Get()) == 0
 			&& Descriptor.Close()
 			&& rename(Temporary.c_str(), Target.c_str()) == 0;
@@ -153,27 +104,12 @@ bool Host::FFiles::Read(const FString& Filename, int64 MaxBytes, TArray<uint8>& 
 
 	TArray<uint8> Bytes;
 	Bytes.SetNumUninitialized(int32(Status.st_size));
-	int32 Count = 0;
-	while (Count < Bytes.Num())
-	{
-		const ssize_t Part = read(Descriptor.Get(), Bytes.GetData() + Count, SIZE_T(Bytes.Num() - Count));
-		if (Part < 0 && errno == EINTR)
-		{
-			continue;
-		}
-		if (Part < 0)
-		{
-			OutReason = DescribeError(errno);
-			return false;
-		}
-		if (Part == 0)
-		{
-			break;
-		}
-		Count += int32(Part);
-	}
 	// Another program may have cut the file meanwhile.
-	Bytes.SetNum(Count);
+	if (!ReadAll(Descriptor.Get(), Bytes))
+	{
+		OutReason = DescribeError(errno);
+		return false;
+	}
 	OutBytes = MoveTemp(Bytes);
 	return true;
 }

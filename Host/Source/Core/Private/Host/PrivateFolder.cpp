@@ -1,16 +1,11 @@
 #include "Host/PrivateFolder.h"
 
-#include "HAL/NativePath.h"
 #include "HAL/PlatformTime.h"
-#include "Misc/ScopeExit.h"
 
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <string>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
@@ -19,11 +14,6 @@ namespace
 	constexpr mode_t OthersMask = 0077;
 	constexpr double LockSeconds = 2.0;
 	constexpr useconds_t LockPauseMicroseconds = 2000;
-
-	FString DescribeError(int Error)
-	{
-		return Host::FromNative(std::strerror(Error));
-	}
 
 	std::string ToName(const FString& File)
 	{
@@ -45,49 +35,6 @@ namespace
 	{
 		return MakeFolder(Path) || (errno == ENOENT && Path.has_parent_path() && Path.parent_path() != Path && MakeFolders(Path.parent_path()) && MakeFolder(Path));
 	}
-
-	bool WriteAll(int File, const char* Bytes, SIZE_T Size)
-	{
-		while (Size > 0)
-		{
-			const ssize_t Written = write(File, Bytes, Size);
-			if (Written < 0 && errno != EINTR)
-			{
-				return false;
-			}
-			Bytes += Written > 0 ? Written : 0;
-			Size -= Written > 0 ? SIZE_T(Written) : 0;
-		}
-		return true;
-	}
-
-	bool ReadAll(int File, TArray<uint8>& Bytes)
-	{
-		int32 Count = 0;
-		while (Count < Bytes.Num())
-		{
-			const ssize_t Part = read(File, Bytes.GetData() + Count, SIZE_T(Bytes.Num() - Count));
-			if (Part < 0 && errno != EINTR)
-			{
-				return false;
-			}
-			if (Part == 0)
-			{
-				break;
-			}
-			Count += Part > 0 ? int32(Part) : 0;
-		}
-		Bytes.SetNum(Count);
-		return true;
-	}
-}
-
-Host::FPrivateFolder::~FPrivateFolder()
-{
-	if (Descriptor >= 0)
-	{
-		close(Descriptor);
-	}
 }
 
 Host::FPrivateFolder::EOpen Host::FPrivateFolder::Open(const FString& Path, bool bMake, FString& OutReason)
@@ -98,8 +45,8 @@ Host::FPrivateFolder::EOpen Host::FPrivateFolder::Open(const FString& Path, bool
 		OutReason = DescribeError(errno);
 		return EOpen::Failed;
 	}
-	Descriptor = open(Native.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-	if (Descriptor < 0)
+	Descriptor.Reset(open(Native.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+	if (!Descriptor.IsValid())
 	{
 		const int Error = errno;
 		std::error_code Absent;
@@ -107,7 +54,7 @@ Host::FPrivateFolder::EOpen Host::FPrivateFolder::Open(const FString& Path, bool
 		return Error == ENOENT ? EOpen::Absent : EOpen::Failed;
 	}
 	struct stat Status;
-	if (fstat(Descriptor, &Status) != 0)
+	if (fstat(Descriptor.Get(), &Status) != 0)
 	{
 		OutReason = DescribeError(errno);
 		return EOpen::Failed;
@@ -117,7 +64,7 @@ Host::FPrivateFolder::EOpen Host::FPrivateFolder::Open(const FString& Path, bool
 		OutReason = TEXT("the folder is another user's");
 		return EOpen::Failed;
 	}
-	if ((Status.st_mode & 07777) != FolderMode && fchmod(Descriptor, FolderMode) != 0)
+	if ((Status.st_mode & 07777) != FolderMode && fchmod(Descriptor.Get(), FolderMode) != 0)
 	{
 		OutReason = DescribeError(errno);
 		return EOpen::Failed;
@@ -128,7 +75,7 @@ Host::FPrivateFolder::EOpen Host::FPrivateFolder::Open(const FString& Path, bool
 bool Host::FPrivateFolder::Lock(FString& OutReason)
 {
 	const double End = FPlatformTime::Seconds() + LockSeconds;
-	while (flock(Descriptor, LOCK_EX | LOCK_NB) != 0)
+	while (flock(Descriptor.Get(), LOCK_EX | LOCK_NB) != 0)
 	{
 		if (errno != EWOULDBLOCK && errno != EINTR)
 		{
@@ -149,16 +96,15 @@ Host::FPrivateFolder::ERead Host::FPrivateFolder::Read(const FString& File, int6
 {
 	bOutExposed = false;
 	// Without waiting, so that a pipe in place of a file stops nothing.
-	const int Opened = openat(Descriptor, ToName(File).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-	if (Opened < 0)
+	const FDescriptor Opened(openat(Descriptor.Get(), ToName(File).c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+	if (!Opened.IsValid())
 	{
 		const int Error = errno;
 		OutReason = Error == ELOOP ? FString(TEXT("is a link")) : DescribeError(Error);
 		return Error == ENOENT ? ERead::Absent : Error == ELOOP || Error == ENXIO ? ERead::Unfit : ERead::Failed;
 	}
-	ON_SCOPE_EXIT { close(Opened); };
 	struct stat Status;
-	if (fstat(Opened, &Status) != 0)
+	if (fstat(Opened.Get(), &Status) != 0)
 	{
 		OutReason = DescribeError(errno);
 		return ERead::Failed;
@@ -176,7 +122,7 @@ Host::FPrivateFolder::ERead Host::FPrivateFolder::Read(const FString& File, int6
 	bOutExposed = (Status.st_mode & OthersMask) != 0;
 	TArray<uint8> Bytes;
 	Bytes.SetNumUninitialized(int32(Status.st_size));
-	if ((bOutExposed && fchmod(Opened, FileMode) != 0) || !ReadAll(Opened, Bytes))
+	if ((bOutExposed && fchmod(Opened.Get(), FileMode) != 0) || !ReadAll(Opened.Get(), Bytes))
 	{
 		OutReason = DescribeError(errno);
 		return ERead::Failed;
@@ -190,34 +136,27 @@ bool Host::FPrivateFolder::Write(const FString& File, const void* Bytes, SIZE_T 
 	const std::string Target = ToName(File);
 	const std::string Temporary = Target + ".new";
 	// What a program that died has left; whoever writes holds the lock.
-	unlinkat(Descriptor, Temporary.c_str(), 0);
-	const int Opened = openat(Descriptor, Temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, FileMode);
-	if (Opened < 0)
+	unlinkat(Descriptor.Get(), Temporary.c_str(), 0);
+	FDescriptor Opened(openat(Descriptor.Get(), Temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, FileMode));
+	if (!Opened.IsValid())
 	{
 		OutReason = DescribeError(errno);
 		return false;
 	}
-	// As with folders.
-	bool bWritten = fchmod(Opened, FileMode) == 0 && WriteAll(Opened, static_cast<const char*>(Bytes), Size) && fsync(Opened) == 0;
-	int Error = errno;
-	if (close(Opened) != 0 && bWritten)
-	{
-		bWritten = false;
-		Error = errno;
-	}
-	if (bWritten && renameat(Descriptor, Temporary.c_str(), Descriptor, Target.c_str()) != 0)
-	{
-		bWritten = false;
-		Error = errno;
-	}
+	// The rights as with folders.
+	const bool bWritten = fchmod(Opened.Get(), FileMode) == 0
+		&& WriteAll(Opened.Get(), static_cast<const char*>(Bytes), Size)
+		&& fsync(Opened.Get()) == 0
+		&& Opened.Close()
+		&& renameat(Descriptor.Get(), Temporary.c_str(), Descriptor.Get(), Target.c_str()) == 0;
 	if (!bWritten)
 	{
-		unlinkat(Descriptor, Temporary.c_str(), 0);
-		OutReason = DescribeError(Error);
+		OutReason = DescribeError(errno);
+		unlinkat(Descriptor.Get(), Temporary.c_str(), 0);
 		return false;
 	}
 	// The content is in place whether or not the file system can promise that it stays through a crash.
-	(void)fsync(Descriptor);
+	(void)fsync(Descriptor.Get());
 	return true;
 }
 
@@ -225,11 +164,11 @@ bool Host::FPrivateFolder::SetAside(const FString& File, const TCHAR* Suffix, FS
 {
 	OutName = File + Suffix;
 	struct stat Status;
-	for (int32 Number = 2; fstatat(Descriptor, ToName(OutName).c_str(), &Status, AT_SYMLINK_NOFOLLOW) == 0; ++Number)
+	for (int32 Number = 2; fstatat(Descriptor.Get(), ToName(OutName).c_str(), &Status, AT_SYMLINK_NOFOLLOW) == 0; ++Number)
 	{
 		OutName = FString::Printf(TEXT("%s%s%d"), *File, Suffix, Number);
 	}
-	if (renameat(Descriptor, ToName(File).c_str(), Descriptor, ToName(OutName).c_str()) != 0)
+	if (renameat(Descriptor.Get(), ToName(File).c_str(), Descriptor.Get(), ToName(OutName).c_str()) != 0)
 	{
 		OutReason = DescribeError(errno);
 		return false;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "Containers/Array.h"
-#include "Containers/UnrealString.h"
+#include "HAL/NativeFile.h"
 
 namespace Host
 {
@@ -13,11 +12,6 @@ namespace Host
 	class FPrivateFolder
 	{
 	public:
-		FPrivateFolder() = default;
-		~FPrivateFolder();
-		FPrivateFolder(const FPrivateFolder&) = delete;
-		FPrivateFolder& operator=(const FPrivateFolder&) = delete;
-
 		enum class EOpen : uint8
 		{
 			Opened,
@@ -51,6 +45,6 @@ namespace Host
 		bool SetAside(const FString& File, const TCHAR* Suffix, FString& OutName, FString& OutReason) const;
 
 	private:
-		int Descriptor = -1;
+		FDescriptor Descriptor = FDescriptor(-1);
 	};
 }
