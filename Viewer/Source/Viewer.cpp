@@ -9,6 +9,7 @@
 #include "HalvexProUISettings.h"
 #include "HalvexUISubsystem.h"
 #include "Host/AutomationScript.h"
+#include "Host/ConfiguratorSceneBinding.h"
 #include "Host/DumpWidgetTree.h"
 #include "Host/FontServices.h"
 #include "Host/PictureCompare.h"
@@ -35,8 +36,9 @@ namespace
 	/** How long a written file may take to show at design time. */
 	constexpr float SecondsBetweenLooks = 0.5f;
 
-	/** The screen of a project's units, and the one for everything else. */
+	/** The screens of a project's units and of the rooms of one, and that for everything else. */
 	const TCHAR* const UnitsScreen = TEXT("Units");
+	const TCHAR* const RoomsScreenName = TEXT("Configurator");
 	const TCHAR* const GalleryScreen = TEXT("Gallery");
 
 	bool HasDisplay()
@@ -239,6 +241,7 @@ void FViewer::PlaceProject(const FProjectData& Data)
 {
 	const FVector2D Size = Loop.GetWindow()->GetClientSizeInScreen();
 	Project = MakeUnique<Host::FProjectScene>(Data, Loop.GetRenderer(), Size.X / Size.Y);
+	Project->GetConfigurator().OnRoomsShown.AddRaw(this, &FViewer::ExchangeScreens);
 }
 
 void FViewer::ReceiveProject(const FProjectData& Data)
@@ -246,13 +249,19 @@ void FViewer::ReceiveProject(const FProjectData& Data)
 	PlaceProject(Data);
 	Loader.Reset();
 	const FString Screen = bNoDisplay ? FString() : ChooseScreen();
-	if (!Screen.IsEmpty() && ViewerScreens::Show(Screen))
+	MainScreen = Screen.IsEmpty() ? nullptr : ViewerScreens::Show(Screen);
+	if (MainScreen.IsValid())
 	{
 		Project->AnnounceUnits();
-		// What the screen covers is known when it was painted: in the frame after this one.
-		bScreenPainted = false;
-		FramingTicker = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateRaw(this, &FViewer::FrameLater));
+		FrameAfterPaint();
 	}
+}
+
+void FViewer::FrameAfterPaint()
+{
+	bScreenPainted = false;
+	FTSTicker::RemoveTicker(FramingTicker);
+	FramingTicker = FTSTicker::GetCoreTicker().AddTicker(FTickerDelegate::CreateRaw(this, &FViewer::FrameLater));
 }
 
 bool FViewer::FrameLater(float)
@@ -300,7 +309,25 @@ UUserWidget* FViewer::ShowScreen(const FString& Name)
 		Loop.Step(0.0);
 		Project->FrameBesideScreens();
 	}
+	MainScreen = Screen;
 	return Screen;
+}
+
+void FViewer::ExchangeScreens(bool bRooms)
+{
+	if (UUserWidget* const Main = MainScreen.Get())
+	{
+		Main->SetVisibility(bRooms ? ESlateVisibility::Collapsed : ESlateVisibility::SelfHitTestInvisible);
+	}
+	if (UUserWidget* const Rooms = RoomsScreen.Get())
+	{
+		Rooms->RemoveFromParent();
+	}
+	RoomsScreen = bRooms ? ViewerScreens::Show(RoomsScreenName) : nullptr;
+	if (RoomsScreen.IsValid())
+	{
+		FrameAfterPaint();
+	}
 }
 
 bool FViewer::ShowDesign(const FString& Screen)

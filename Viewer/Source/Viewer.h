@@ -6,6 +6,7 @@
 #include "Host/LogSink.h"
 #include "Host/WidgetDesigner.h"
 #include "UObject/StrongObjectPtr.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 #include "ViewerOptions.h"
 
 class UProjectLoader;
@@ -58,6 +59,8 @@ private:
 	void PlaceProject(const FProjectData& Data);
 	/** Shows the project that came from its address, with its screen. */
 	void ReceiveProject(const FProjectData& Data);
+	/** Shows the scene beside a screen that has just come. What it covers is known when it was painted: in the frame after this one. */
+	void FrameAfterPaint();
 	/** Shows the scene beside the screen, in the second frame in which it is called. */
 	bool FrameLater(float);
 	/** Runs frames until the project has come from its address, or will not. */
@@ -66,6 +69,8 @@ private:
 	FString ChooseScreen() const;
 	/** Shows a screen, and tells it of the project. Null when there is no such screen. */
 	UUserWidget* ShowScreen(const FString& Name);
+	/** Shows the screen that belongs to rooms over them, or the one from before again. */
+	void ExchangeScreens(bool bRooms);
 	/** Shows the screen at design time. */
 	bool ShowDesign(const FString& Screen);
 	bool WritePicture(const FString& File);
@@ -89,6 +94,9 @@ private:
 	/** Set until the scene is shown beside a screen that came in the middle of a frame. */
 	FTSTicker::FDelegateHandle FramingTicker;
 	bool bScreenPainted = false;
+	/** The screen that was asked for, and the one that lies over rooms. */
+	TWeakObjectPtr<UUserWidget> MainScreen;
+	TWeakObjectPtr<UUserWidget> RoomsScreen;
 	/** True when a window was wanted and there is no display. */
 	bool bNoDisplay = false;
 };

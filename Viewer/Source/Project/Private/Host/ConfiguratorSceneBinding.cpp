@@ -31,11 +31,6 @@ namespace
 	{
 		return *UHalvexSDKEngineSubsystem::Get()->GetUserRequestManager();
 	}
-
-	FName FindTarget(const UProjectWrapper& Project)
-	{
-		return Project.HasConfiguratorTarget() ? Project.GetUnitGroupTarget()->GetConfiguratorWrapper()->GetConfiguratorUnitTarget().UnitId : FName();
-	}
 }
 
 void UConfiguratorSceneBinding::Bind(const FProjectData& Project, AUnitVolumesManager& InManager, FSlateRenderer* InWindowRenderer)
@@ -147,18 +142,10 @@ void UConfiguratorSceneBinding::ReceivedSurfaceLooks(const TArray<FVariantSurfac
 
 void UConfiguratorSceneBinding::ExchangeConfiguration()
 {
-	const FName Target = FindTarget(GetProject());
-	if (!VariantSets || Target == ConfiguredUnit)
+	if (VariantSets && GetProject().HasConfiguratorTarget())
 	{
-		return;
+		VariantSets->GetVariantHandler()->SetConfiguredUnit(GetProject().GetUnitGroupTarget()->GetConfiguratorWrapper()->GetConfiguratorUnitTarget().UnitId);
 	}
-	UHalvexVariantHandler& Handler = *VariantSets->GetVariantHandler();
-	if (!ConfiguredUnit.IsNone())
-	{
-		StateOfUnit.Add(ConfiguredUnit, Handler.GetConfiguratorState());
-	}
-	ConfiguredUnit = Target;
-	Handler.SetConfiguratorState(StateOfUnit.FindRef(Target));
 }
 
 void UConfiguratorSceneBinding::ShowRooms()

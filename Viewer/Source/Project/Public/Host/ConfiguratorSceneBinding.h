@@ -1,6 +1,5 @@
 #pragma once
 
-#include "Configurator/HalvexConfiguratorState.h"
 #include "CoreMinimal.h"
 #include "Host/InteriorContent.h"
 #include "Host/SSceneViewport.h"
@@ -20,7 +19,7 @@ DECLARE_MULTICAST_DELEGATE_OneParam(FOnRoomsShown, bool);
 
 /**
  * Keeps the configurator and the scene in step, by events only: the unit that was selected last is the configurator's target, while
- * the configurator is open its rooms are shown, and they look as the active variants say. Each unit keeps what was chosen for it.
+ * the configurator is open its rooms are shown, and they look as the active variants say. What was chosen belongs to the unit.
  */
 UCLASS(Transient)
 class UConfiguratorSceneBinding : public UObject
@@ -54,7 +53,7 @@ private:
 	void ReceivedSurfaceLooks(const TArray<FVariantSurfaceLook>& SurfaceLooks);
 
 	void AddCatalogue(const FProjectData& Project);
-	/** Keeps what was configured so far, and goes on with what was configured of the target before. */
+	/** Goes on with what was configured of the target before. */
 	void ExchangeConfiguration();
 	void ShowRooms();
 	void HideRooms();
@@ -63,12 +62,8 @@ private:
 	UPROPERTY()
 	TObjectPtr<AHalvexLevelVariantSetsActor> VariantSets;
 
-	UPROPERTY()
-	TMap<FName, FHalvexConfiguratorState> StateOfUnit;
-
 	TWeakObjectPtr<AUnitVolumesManager> Manager;
 	FSlateRenderer* WindowRenderer = nullptr;
-	FName ConfiguredUnit;
 	TUniquePtr<Host::FInteriorContent> Interior;
 	TSharedPtr<Host::SSceneViewport> Viewport;
 };
