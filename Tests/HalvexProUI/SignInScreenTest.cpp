@@ -306,6 +306,18 @@ namespace
 		EXPECT_TRUE(FService::GetUser().HasValidToken());
 	}
 
+	TEST_F(FSignInScreenTest, SmallWindowShowsAllOfIt)
+	{
+		Loop.GetWindow()->Resize(FVector2D(380.0, 400.0));
+		ShowScreen();
+		const FGeometry& Panel = Driver.Find(TEXT("Panel"))->GetCachedGeometry();
+		const FVector2D TopLeft(Panel.LocalToAbsolute(FVector2D::ZeroVector));
+		const FVector2D BottomRight(Panel.LocalToAbsolute(FVector2D(Panel.GetLocalSize())));
+		EXPECT_GE(FMath::Min(TopLeft.X, TopLeft.Y), 0.0);
+		EXPECT_LE(BottomRight.X, 380.0);
+		EXPECT_LE(BottomRight.Y, 400.0);
+	}
+
 	TEST_F(FSignInScreenTest, LongNamesStayInTheirPlace)
 	{
 		const std::string Name(200, 'w');
