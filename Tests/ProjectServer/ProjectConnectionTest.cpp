@@ -15,6 +15,7 @@
 
 using Host::FProjectConnection;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace
 {
@@ -165,4 +166,28 @@ TEST_F(FProjectConnectionTest, TheViewerShowsAProjectOfAServer)
 	Server->Signal(SIGTERM);
 	EXPECT_EQ(0, Server->Finish());
 	EXPECT_THAT(Server->GetOutput(), HasSubstr("GET /project.json 200 "));
+}
+
+TEST_F(FProjectConnectionTest, TheViewerSignsInAndRemembersOnItsNextStart)
+{
+	Folder.Write("project.json", R"({"format": 1, "units": [{"id": "A-1"}]})");
+	std::filesystem::copy_file(HALVEX_SOURCE_DIR "/Viewer/Projects/Quayside/Portraits/mara-lind.png", Folder.Path / "Portraits/anna.png", std::filesystem::copy_options::overwrite_existing);
+	const std::string Url = StartServer();
+	const auto Drive = [this](const std::string& Project, const std::string& Script)
+	{
+		FServerProcess Viewer(Home.Path, { "--headless", "--renderer", "cpu", "--screen", "SignIn", "--project", Project,
+			"--script", HALVEX_SOURCE_DIR "/Tests/ProjectServer/Scripts/" + Script }, std::string(), HALVEX_VIEWER);
+		EXPECT_EQ(0, Viewer.Finish()) << Project << " " << Script << "\n" << Viewer.GetOutput();
+		EXPECT_THAT(Viewer.GetOutput(), Not(HasSubstr("right-password")));
+	};
+	for (const std::string& Project : { Folder.Path.string(), Url })
+	{
+		Drive(Project, "SignIn.lua");
+		for (const std::filesystem::directory_entry& File : std::filesystem::recursive_directory_iterator(Home.Path))
+		{
+			const std::string Name = std::filesystem::relative(File.path(), Home.Path).string();
+			EXPECT_TRUE(File.is_directory() || Home.Read(Name).find("right-password") == std::string::npos) << Name;
+		}
+		Drive(Project, "Continue.lua");
+	}
 }

@@ -33,6 +33,10 @@ FServerProcess::FServerProcess(const std::filesystem::path& Home, const std::vec
 		{
 			close(End);
 		}
+		if (chdir(Home.c_str()) != 0)
+		{
+			_exit(126);
+		}
 		setenv("XDG_DATA_HOME", Home.c_str(), 1);
 		setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
 		execv(Pointers[0], Pointers.data());

@@ -10,7 +10,7 @@
 class FServerProcess
 {
 public:
-	/** @param Home where it keeps what it keeps for its user */
+	/** @param Home where it runs, and keeps what it keeps for its user */
 	FServerProcess(const std::filesystem::path& Home, const std::vector<std::string>& Arguments, const std::string& Input = std::string(), const std::string& Program = HALVEX_PROJECT_SERVER);
 	~FServerProcess();
 	FServerProcess(const FServerProcess&) = delete;
