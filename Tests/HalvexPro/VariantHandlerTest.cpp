@@ -390,6 +390,30 @@ namespace
 		EXPECT_EQ(Changes(), "");
 	}
 
+	TEST_F(FVariantHandlerTest, WhoHearsOfAnotherCatalogueAheadOfTheHandlerMayAskIt)
+	{
+		Choose(TEXT("Marble"));
+		int32 NumAsked = 0;
+		const auto Ask = [&]
+		{
+			++NumAsked;
+			Handler->GetSurfaceLooks();
+			Handler->GetPriceOfChanges();
+			EXPECT_EQ(Changes(), NumAsked == 1 ? "Kitchen.Worktop None 0" : "") << "there is no such product any longer";
+		};
+		// Whichever end of its listeners the asset begins with.
+		Handler->SetVariantConfigurator(nullptr);
+		Asset->OnCatalogueChanged.AddLambda(Ask);
+		Handler->SetVariantConfigurator(Asset.Get());
+		Asset->OnCatalogueChanged.AddLambda(Ask);
+		Choose(TEXT("Marble"));
+		FConfiguratorCatalogue Catalogue = Host::TestCatalogue::Make();
+		Catalogue.Categories[0].SubCategories[0].Variants.RemoveAt(1);
+		const FExpectedLog Warning(TEXT("and so not chosen: 'Marble'"));
+		Asset->SetCatalogue(Catalogue);
+		EXPECT_EQ(NumAsked, 2);
+	}
+
 	TEST_F(FVariantHandlerTest, ListOfProductsIsLeftAloneWhereVariantsAreSelected)
 	{
 		Asset->AddProductToList(FName(TEXT("Slate")));

@@ -392,7 +392,13 @@ TArray<FVariantSurfaceLook> UHalvexVariantHandler::GetSurfaceLooks() const
 	TMap<FName, int32> IndexOfSurface;
 	for (const TPair<FName, FName>& Active : GetActiveVariants())
 	{
-		for (const FVariantSurfaceLook& Look : FindVariant(Configurator, Active.Value)->Variant->Looks)
+		const FHalvexCatalogueIndex::FVariantPlace* const Place = FindVariant(Configurator, Active.Value);
+		if (!Place)
+		{
+			// The catalogue was exchanged, and others are told of it ahead of this handler.
+			continue;
+		}
+		for (const FVariantSurfaceLook& Look : Place->Variant->Looks)
 		{
 			if (const int32* const Index = IndexOfSurface.Find(Look.Surface))
 			{
@@ -495,8 +501,9 @@ void UHalvexVariantHandler::SetConfiguredUnit(FName UnitId)
 
 void UHalvexVariantHandler::Change(const TArray<FHalvexVariantChoice>& NewChoices, const TArray<FName>& NewProductList, bool bCatalogueChanged)
 {
-	TArray<FHalvexVariantChoice> Possible = FindPossible(NewChoices);
+	// Who hears of the list may exchange the catalogue: what is possible is found after it.
 	const bool bListChanges = ExchangeProductList(NewProductList);
+	TArray<FHalvexVariantChoice> Possible = FindPossible(NewChoices);
 	const bool bChoicesChange = Possible != Choices;
 	const bool bChangeListChanges = bChoicesChange || (bCatalogueChanged && !Possible.IsEmpty());
 	Choices = MoveTemp(Possible);
