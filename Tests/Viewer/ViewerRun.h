@@ -20,7 +20,7 @@ struct FViewerRun
 	Host::FPicture Picture;
 };
 
-/** Runs it without a window to a last picture. The environment comes before the program, "NAME=value". */
+/** Runs it without a window to a last picture. The environment stands before the program: "NAME=value", or "cd FOLDER &&". */
 inline FViewerRun RunViewer(const std::string& Environment, const std::string& Arguments, const std::string& Size = "480x300")
 {
 	const std::filesystem::path Base = std::filesystem::temp_directory_path() / ("ViewerScene" + std::to_string(::getpid()));

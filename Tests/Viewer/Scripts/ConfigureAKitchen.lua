@@ -1,4 +1,5 @@
--- Configures a flat of Quayside as a person does: from the list of units to the summary, and back to the units.
+-- Configures a flat of Quayside as a person does: from the list of units to the summary, and back to the units. Leaves a picture
+-- of the rooms as they come, KitchenBefore.png.
 
 local function Text(Locator)
 	return Find(Locator):GetText()
@@ -35,6 +36,9 @@ ExpectText("TargetUnit/TotalText", Text("TargetUnit/PriceText"))
 for _, Category in ipairs({ "Kitchen", "Bath", "Living room", "Bedroom", "Windows and terrace" }) do
 	Expect(Count("Configurator/text:" .. Category) == 1, "there is no category " .. Category)
 end
+
+Wait(2)
+Picture("KitchenBefore.png")
 
 -- The kitchen.
 Click("Configurator/text:Kitchen")
