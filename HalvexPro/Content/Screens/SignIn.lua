@@ -9,13 +9,19 @@ local function ShowPage(self, Shown)
 end
 
 function ShowSignIn(self)
-	self.Panel:StartAnew()
+	self.Page.Panel:StartAnew()
 	ShowPage(self, true)
+end
+
+function UserChanged(self)
+	if not self.Badge:IsUserLogged() then
+		self:ShowSignIn()
+	end
 end
 
 function OnInitialized(self)
 	self.Badge.Screen = self
-	self.Panel.OnLoginResult:Add(function(Successful)
+	self.Page.Panel.OnLoginResult:Add(function(Successful)
 		if Successful then
 			ShowPage(self, false)
 		end

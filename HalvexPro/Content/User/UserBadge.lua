@@ -19,6 +19,13 @@ local function ShowMenu(self, Shown)
 	self.Arrow:SetRenderTransformAngle(Shown and 180 or 0)
 end
 
+-- A screen that has the badge may follow who is signed in.
+local function TellScreen(self)
+	if self.Screen then
+		self.Screen:UserChanged()
+	end
+end
+
 local function ShowPicture(self, Texture)
 	local Brush = Kit.RoundedBrush({ R = 1, G = 1, B = 1, A = 1 }, 17)
 	Brush.ResourceObject = Texture
@@ -37,6 +44,7 @@ function OnUserLogged(self, Info)
 	Show(self.Picture, false)
 	Show(self.Stack, true)
 	ShowMenu(self, false)
+	TellScreen(self)
 	if Info.UserImage.Address ~= "" then
 		self:GetUserImage(function(Success, Texture)
 			-- Another user may have come meanwhile.
@@ -51,9 +59,7 @@ end
 function OnUserLogout(self)
 	ShowMenu(self, false)
 	Show(self.Stack, false)
-	if self.Screen then
-		self.Screen:ShowSignIn()
-	end
+	TellScreen(self)
 end
 
 function OnInitialized(self)

@@ -1,0 +1,7 @@
+-- A cross that closes what it stands on.
+
+local Controls = Import("/HalvexPro/Shared/Controls")
+
+function PreConstruct(self)
+	Controls.StyleBarButton(self.Button)
+end
