@@ -199,6 +199,7 @@ namespace
 		const FExpectedLog Foreign(TEXT("foreign.json: this is no set of filters"));
 		const FExpectedLog NoObject(TEXT("list.json"));
 		EXPECT_EQ(List(), "Good");
+		EXPECT_EQ(List(), "Good") << "once is enough";
 	}
 
 	TEST_F(FUnitFilterSetTest, FileThatIsFarTooLargeIsNotRead)

@@ -43,6 +43,8 @@ local function KeepNow(self)
 	end
 	local Manager = Managers:GetUnitVolumesManager(self)
 	if Manager then
+		-- What was selected is an item of before, which the list forgets with the next frame.
+		self.ListViewContainer:BP_ClearSelection()
 		self:ReceivedUnitVolumeSelectionChange(Manager:GetSelectedUnitVolumes())
 	end
 end

@@ -248,21 +248,24 @@ bool FUnitFilterSetFile::Save(const FString& Filename, const FUnitFilterSet& Set
 bool FUnitFilterSetFile::Load(const FString& Filename, FUnitFilterSet& OutSet)
 {
 	FReadProblems Problems(Filename);
-	FString Text;
-	bool bRead = false;
+	const bool bRead = Read(Filename, OutSet, Problems);
+	Problems.Log();
+	return bRead;
+}
+
+bool FUnitFilterSetFile::Read(const FString& Filename, FUnitFilterSet& OutSet, FReadProblems& Problems)
+{
 	OutSet = FUnitFilterSet();
 	if (IFileManager::Get().FileSize(*Filename) > MaxFileSize)
 	{
 		Problems.Add(0, 0, TEXT("the file is too large for a set of filters"));
+		return false;
 	}
-	else if (!FFileHelper::LoadFileToString(Text, *Filename, FFileHelper::EHashOptions::None, FILEREAD_Silent))
+	FString Text;
+	if (!FFileHelper::LoadFileToString(Text, *Filename, FFileHelper::EHashOptions::None, FILEREAD_Silent))
 	{
 		Problems.Add(0, 0, TEXT("the file cannot be read"));
+		return false;
 	}
-	else
-	{
-		bRead = FromJson(Text, OutSet, Problems);
-	}
-	Problems.Log();
-	return bRead;
+	return FromJson(Text, OutSet, Problems);
 }

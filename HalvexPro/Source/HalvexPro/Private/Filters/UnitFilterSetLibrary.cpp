@@ -59,7 +59,20 @@ namespace
 		FUnitFilterSet Set;
 	};
 
-	/** Reads all kept sets; what is wrong with a file is one line in the log, and the others are read. */
+	/** Logs what is wrong with a kept file once, until it is written anew: the files are read each time someone asks for a set. */
+	void Tell(const FString& Filename, const FReadProblems& Problems)
+	{
+		static TMap<FString, FDateTime> Told;
+		const FDateTime Written = IFileManager::Get().GetTimeStamp(*Filename);
+		FDateTime& Last = Told.FindOrAdd(Filename);
+		if (Last != Written)
+		{
+			Last = Written;
+			Problems.Log();
+		}
+	}
+
+	/** Reads all kept sets. A file that cannot be read stops none of the others. */
 	TArray<FKeptSet> ReadAll()
 	{
 		TArray<FString> Names;
@@ -69,7 +82,13 @@ namespace
 		{
 			FKeptSet Kept;
 			Kept.Filename = GetFolder() / Name;
-			if (FUnitFilterSetFile::Load(Kept.Filename, Kept.Set))
+			FReadProblems Problems(Kept.Filename);
+			const bool bRead = FUnitFilterSetFile::Read(Kept.Filename, Kept.Set, Problems);
+			if (!Problems.IsEmpty())
+			{
+				Tell(Kept.Filename, Problems);
+			}
+			if (bRead)
 			{
 				if (Kept.Set.Name.IsEmpty())
 				{

@@ -24,4 +24,7 @@ public:
 
 	/** Reads a file and logs what is wrong. */
 	static bool Load(const FString& Filename, FUnitFilterSet& OutSet);
+
+	/** Reads a file; nothing is logged. */
+	static bool Read(const FString& Filename, FUnitFilterSet& OutSet, FReadProblems& Problems);
 };
