@@ -81,6 +81,19 @@ TEST(ViewerScene, AProjectFromAnAddressIsShownAsTheSameOneFromAFolder)
 	EXPECT_NE(Missing.Log.find("There is no project at this address (404)."), std::string::npos) << Missing.Log;
 }
 
+TEST(ViewerScene, ASalesListIsShownAndItsOtherColumnsAreOneLine)
+{
+	const std::string List = (std::filesystem::temp_directory_path() / ("ViewerScene" + std::to_string(::getpid()) + ".csv")).string();
+	std::ofstream(List) << "id,name,colour,minX,minY,minZ,maxX,maxY,maxZ,broker\nA,Flat A,red,0,0,0,8,6,3,Anna\nB,Flat B,blue,9,0,0,17,6,3,Otto\n";
+	const FViewerRun Run = RunViewer("", "--renderer cpu --project " + List);
+	std::filesystem::remove(List);
+
+	EXPECT_EQ(Run.ExitCode, 0) << Run.Log;
+	EXPECT_NE(Run.Log.find(List + ": columns that the mapping does not name are left out: colour, broker\n"), std::string::npos) << Run.Log;
+	EXPECT_EQ(Run.Log.find("Warning"), std::string::npos) << Run.Log;
+	EXPECT_GT(CountColours(Run.Picture), 300) << "there is a scene in it, beside the list";
+}
+
 TEST(ViewerScene, WithABrokenProjectTheViewerGoesOnWithoutOne)
 {
 	const FViewerRun Run = RunViewer("", "--renderer cpu --project /nonexistent");

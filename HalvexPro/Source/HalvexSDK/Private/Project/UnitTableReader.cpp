@@ -1,5 +1,6 @@
 #include "Project/UnitTableReader.h"
 
+#include "HalvexSDKLog.h"
 #include "Misc/FileHelper.h"
 #include "Project/TableFormulaGuard.h"
 #include "Project/TableNumber.h"
@@ -10,6 +11,7 @@ namespace
 {
 	constexpr int32 NumBounds = 6;
 	constexpr double MaxCoordinate = 1e8;
+	constexpr int32 MaxHeaderInLog = 40;
 
 	/** One reading of a table. */
 	class FUnitTable
@@ -46,6 +48,9 @@ namespace
 			}
 			return !Rows.IsCut();
 		}
+
+		/** Headers of the columns that are not read. */
+		const TArray<FString>& GetLeftOut() const { return LeftOut; }
 
 	private:
 		bool UsesDecimalComma(FStringView Text) const
@@ -88,6 +93,10 @@ namespace
 				if (Wanted.RemoveAndCopyValue(Normalise(Rows[Place].Text), Column))
 				{
 					bId |= Columns[Column].Mapping->Field == EUnitTableField::Id;
+				}
+				else if (!Rows[Place].Text.TrimStartAndEnd().IsEmpty())
+				{
+					LeftOut.Add(Rows[Place].Text.TrimStartAndEnd().Left(MaxHeaderInLog));
 				}
 				ColumnOfPlace.Add(Column);
 			}
@@ -208,7 +217,20 @@ namespace
 		TArray<int32> ColumnOfPlace;
 		FUnitRecordFields Fields;
 		TSet<FName> Ids;
+		TArray<FString> LeftOut;
 	};
+
+	/** @param OutLeftOut	headers of the columns that are not read */
+	bool ReadTable(TConstArrayView<uint8> Bytes, const FUnitTableMapping& Mapping, TArray<FProjectUnit>& OutUnits, FReadProblems& Problems, TArray<FString>& OutLeftOut)
+	{
+		OutUnits.Reset();
+		FString Text;
+		FFileHelper::BufferToString(Text, Bytes.GetData(), Bytes.Num());
+		FUnitTable Table(Text, Mapping, OutUnits, Problems);
+		const bool bRead = Table.Read();
+		OutLeftOut = Table.GetLeftOut();
+		return bRead;
+	}
 }
 
 bool FUnitTableReader::LoadFile(const FString& Filename, const FUnitTableMapping& Mapping, TArray<FProjectUnit>& OutUnits)
@@ -219,7 +241,12 @@ bool FUnitTableReader::LoadFile(const FString& Filename, const FUnitTableMapping
 	OutUnits.Reset();
 	if (FFileHelper::LoadFileToArray(Bytes, *Filename, FILEREAD_Silent))
 	{
-		bRead = ReadBytes(Bytes, Mapping, OutUnits, Problems);
+		TArray<FString> LeftOut;
+		bRead = ReadTable(Bytes, Mapping, OutUnits, Problems, LeftOut);
+		if (!LeftOut.IsEmpty())
+		{
+			UE_LOG(LogHalvexSDK, Display, TEXT("%s: columns that the mapping does not name are left out: %s"), *Filename, *FString::Join(LeftOut, TEXT(", ")));
+		}
 	}
 	else
 	{
@@ -231,8 +258,6 @@ bool FUnitTableReader::LoadFile(const FString& Filename, const FUnitTableMapping
 
 bool FUnitTableReader::ReadBytes(TConstArrayView<uint8> Bytes, const FUnitTableMapping& Mapping, TArray<FProjectUnit>& OutUnits, FReadProblems& Problems)
 {
-	OutUnits.Reset();
-	FString Text;
-	FFileHelper::BufferToString(Text, Bytes.GetData(), Bytes.Num());
-	return FUnitTable(Text, Mapping, OutUnits, Problems).Read();
+	TArray<FString> LeftOut;
+	return ReadTable(Bytes, Mapping, OutUnits, Problems, LeftOut);
 }

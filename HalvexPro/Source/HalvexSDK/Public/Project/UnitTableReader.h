@@ -13,7 +13,7 @@
 class HALVEXSDK_API FUnitTableReader
 {
 public:
-	/** Reads a file and logs what is wrong. False when it cannot be read, or not to its end. */
+	/** Reads a file and logs what is wrong, and in one line which columns are left out. False when it cannot be read, or not to its end. */
 	static bool LoadFile(const FString& Filename, const FUnitTableMapping& Mapping, TArray<FProjectUnit>& OutUnits);
 
 	/** Reads UTF-8, or UTF-16 behind its byte order mark; nothing is logged. False when the text could not be read to its end. */

@@ -50,13 +50,14 @@ void USpotSceneBinding::Unbind()
 
 void USpotSceneBinding::RefreshStyle()
 {
-	if (Panel)
+	const bool bShown = Panel.IsValid();
+	HideWidgets();
+	for (AHxInteractiveSpot* Spot : Spots)
 	{
-		HideWidgets();
-		for (AHxInteractiveSpot* Spot : Spots)
-		{
-			Spot->ReleaseISPWidget();
-		}
+		Spot->ReleaseISPWidget();
+	}
+	if (bShown)
+	{
 		ShowWidgets();
 	}
 }

@@ -5,7 +5,6 @@
 #include "SpotSceneBinding.generated.h"
 
 class AHxInteractiveSpot;
-class UUserWidget;
 struct FProjectData;
 
 namespace Host
