@@ -22,9 +22,9 @@ protected:
 		Loop.GetWindow()->Resize(FVector2D(800.0, 600.0));
 	}
 
-	void ShowScreen()
+	void ShowScreen(const TCHAR* Path = TEXT("/HalvexPro/Screens/SignIn.SignIn_C"))
 	{
-		UClass* Class = LoadObject<UClass>(nullptr, TEXT("/HalvexPro/Screens/SignIn.SignIn_C"));
+		UClass* Class = LoadObject<UClass>(nullptr, Path);
 		Widget = CreateWidget<UUserWidget>(GEngine->GetGameInstance(), Class);
 		Widget->AddToViewport();
 		Settle();

@@ -3,5 +3,5 @@
 local Controls = Import("/HalvexPro/Shared/Controls")
 
 function PreConstruct(self)
-	Controls.StyleBarButton(self.Button)
+	Controls.StyleTightButton(self.Button)
 end

@@ -6,25 +6,39 @@ local Controls = Import("/HalvexPro/Shared/Controls")
 local PageOrder = 10
 
 function UserChanged(self)
-	self.SignIn:SetVisibility(self.Badge:IsUserLogged() and "Collapsed" or "Visible")
+	self.ToSignIn:SetVisibility(self.Badge:IsUserLogged() and "Collapsed" or "Visible")
 end
 
 function ShowSignIn(self)
-	local Page = CreateWidget(self, "/HalvexPro/User/SignInPage.SignInPage")
-	Page.Dismissable = true
-	Page:AddToViewport(PageOrder)
+	self.SignInPage = CreateWidget(self, "/HalvexPro/User/SignInPage.SignInPage")
+	self.SignInPage.Dismissable = true
+	self.SignInPage:AddToViewport(PageOrder)
+end
+
+local function ToggleSettings(self)
+	if self.SettingsPage and self.SettingsPage:IsInViewport() then
+		self.SettingsPage:RemoveFromParent()
+	else
+		self.SettingsPage = CreateWidget(self, "/HalvexPro/Settings/SettingsPage.SettingsPage")
+		self.SettingsPage:AddToViewport(PageOrder)
+	end
 end
 
 function OnInitialized(self)
-	self.SignIn.OnClickWithID:Add(function() self:ShowSignIn() end)
-	self.Settings.OnClickWithID:Add(function()
-		CreateWidget(self, "/HalvexPro/Settings/SettingsPage.SettingsPage"):AddToViewport(PageOrder)
-	end)
+	self.ToSignIn.OnClickWithID:Add(function() self:ShowSignIn() end)
+	self.ToSettings.OnClickWithID:Add(function() ToggleSettings(self) end)
 	self.Badge.Screen = self
 	self:UserChanged()
 end
 
+-- Pages do not outlast the screen that they were opened from.
+function Destruct(self)
+	for _, Page in pairs({ self.SignInPage, self.SettingsPage }) do
+		Page:RemoveFromParent()
+	end
+end
+
 function PreConstruct(self)
-	Controls.StyleBarButton(self.SignIn)
-	Controls.StyleBarButton(self.Settings)
+	Controls.StyleBarButton(self.ToSignIn)
+	Controls.StyleTightButton(self.ToSettings)
 end
