@@ -67,7 +67,8 @@ namespace
 		ShowFilters();
 		Enter(TEXT("Price/To"), TEXT("280000"));
 		Enter(TEXT("Rooms/From"), TEXT("5"));
-		ExpectPicture(TEXT("Root#1"), TEXT("Nothing"));
+		ExpectPicture(TEXT("Filters"), TEXT("Nothing"));
+		ExpectPicture(TEXT("UnitList"), TEXT("NothingListed"));
 	}
 
 	TEST_P(FUnitFiltersScreenPictureTest, SavedFilters)
@@ -91,7 +92,7 @@ namespace
 		ShowFilters();
 		ChooseSome();
 		Driver.Wait(1.0);
-		ExpectPicture(TEXT("Root#1"), TEXT("Small"));
+		ExpectPicture(TEXT("Filters"), TEXT("Small"));
 	}
 
 	INSTANTIATE_TEST_SUITE_P(Styles, FUnitFiltersScreenPictureTest, testing::Values(TEXT("UIStyle_Hx_Light"), TEXT("UIStyle_Hx_Dark")),
