@@ -116,6 +116,7 @@ function OnInitialized(self)
 end
 
 function PreConstruct(self)
+	Controls.StyleList(self.ListDisplay)
 	for _, Button in ipairs({ self.Back, self.AllButton, self.CategoryButton }) do
 		Controls.StyleTightButton(Button)
 	end

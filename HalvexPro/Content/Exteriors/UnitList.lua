@@ -80,4 +80,5 @@ function PreConstruct(self)
 	Controls.StyleBarButton(self.Order)
 	Controls.StyleTightButton(self.FiltersButton)
 	Controls.StyleTextBox(self.SearchBox)
+	Controls.StyleList(self.ListViewContainer)
 end

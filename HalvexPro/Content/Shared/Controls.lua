@@ -119,7 +119,7 @@ function StyleSlider(Slider)
 	}
 end
 
-function StyleScrollBox(Box)
+local function ScrollBarStyle()
 	local function Thumb(Opacity)
 		local Brush = Kit.RoundedBrush(Kit.Color("Third", false, Opacity), 4)
 		Brush.ImageSize = { X = 8, Y = 8 }
@@ -129,7 +129,16 @@ function StyleScrollBox(Box)
 	for _, Part in ipairs({ "HorizontalBackgroundImage", "VerticalBackgroundImage", "VerticalTopSlotImage", "VerticalBottomSlotImage", "HorizontalTopSlotImage", "HorizontalBottomSlotImage" }) do
 		Style[Part] = None
 	end
-	Box.WidgetBarStyle = Style
+	return Style
+end
+
+function StyleScrollBox(Box)
+	Box.WidgetBarStyle = ScrollBarStyle()
+end
+
+-- Before the list is shown for the first time.
+function StyleList(List)
+	List.ScrollBarStyle = ScrollBarStyle()
 end
 
 function StyleCountBar(Bar)

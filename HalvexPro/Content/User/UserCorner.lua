@@ -39,6 +39,6 @@ function Destruct(self)
 end
 
 function PreConstruct(self)
-	Controls.StyleBarButton(self.ToSignIn)
+	Controls.StyleTightButton(self.ToSignIn)
 	Controls.StyleTightButton(self.ToSettings)
 end
