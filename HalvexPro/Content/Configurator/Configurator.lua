@@ -1,15 +1,12 @@
 -- Walks the catalogue of the level: cards of categories, subcategories and products, a trail and a way back.
 
+local Kit = Import("/HalvexPro/Shared/Kit")
 local Controls = Import("/HalvexPro/Shared/Controls")
 
 local Entries = Class("/Script/UMG.UserObjectListEntryLibrary")
 
 local function FindHandler(self)
 	return self.HxLevelVariantSetRef and self.HxLevelVariantSetRef:GetVariantHandler()
-end
-
-local function Show(Widget, Shown)
-	Widget:SetVisibility(Shown and "Visible" or "Collapsed")
 end
 
 -- What people read of the item of that key.
@@ -29,11 +26,11 @@ local function ShowTrail(self)
 	local Category = Handler and NameOf(Handler:GetAllCategoryOverrideData(), Handler:GetSelectedCategory()) or ""
 	local SubCategory = Handler and NameOf(Handler:GetSubCategoryOverrideData(), Handler:GetSelectedSubCategory()) or ""
 	local First, Last = Level == "ECLET_Category", Level == "ECLET_Product"
-	Show(self.Back, not First)
-	Show(self.AllButton, not First)
-	Show(self.CategorySlash, not First)
-	Show(self.CategoryButton, Last)
-	Show(self.SubCategorySlash, Last)
+	Kit.Show(self.Back, not First)
+	Kit.Show(self.AllButton, not First)
+	Kit.Show(self.CategorySlash, not First)
+	Kit.Show(self.CategoryButton, Last)
+	Kit.Show(self.SubCategorySlash, Last)
 	self.CategoryText:SetText(Category)
 	self.CurrentText:SetText(First and "All" or Last and SubCategory or Category)
 	local Empty = self.ListDisplay:GetNumItems() == 0

@@ -1,16 +1,11 @@
 -- The page to sign in on, until somebody has; then the user's badge alone.
 
-local function User()
-	return Subsystem("/Script/HalvexSDK.HalvexSDKEngineSubsystem"):GetHalvexUser()
-end
-
-local function ShowPage(self, Shown)
-	self.Page:SetVisibility(Shown and "Visible" or "Collapsed")
-end
+local Kit = Import("/HalvexPro/Shared/Kit")
+local Account = Import("/HalvexPro/User/Account")
 
 function ShowSignIn(self)
 	self.Page.Panel:StartAnew()
-	ShowPage(self, true)
+	Kit.Show(self.Page, true)
 end
 
 function UserChanged(self)
@@ -23,11 +18,11 @@ function OnInitialized(self)
 	self.Badge.Screen = self
 	self.Page.Panel.OnLoginResult:Add(function(Successful)
 		if Successful then
-			ShowPage(self, false)
+			Kit.Show(self.Page, false)
 		end
 	end)
 end
 
 function Construct(self)
-	ShowPage(self, not (User() and User():HasValidToken()))
+	Kit.Show(self.Page, not (Account.User() and Account.User():HasValidToken()))
 end

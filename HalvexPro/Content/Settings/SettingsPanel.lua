@@ -1,6 +1,7 @@
 -- A settings screen: its rows, the bar that waits for a confirmation, and the count after which an unconfirmed video mode is
 -- put back.
 
+local Kit = Import("/HalvexPro/Shared/Kit")
 local Controls = Import("/HalvexPro/Shared/Controls")
 
 local Levels = { "Shadow", "AntiAliasing", "Texture", "Shading", "Reflection", "GlobalIllumination", "PostProcess", "VisualEffect", "Foliage", "ViewDistance" }
@@ -12,17 +13,13 @@ local function User(self)
 	return self.Overall:GetGameUserSetting()
 end
 
-local function Show(Widget, Shown)
-	Widget:SetVisibility(Shown and "Visible" or "Collapsed")
-end
-
 local function IsCounting(self)
 	return self.SecondsLeft > 0
 end
 
 local function ShowBars(self)
-	Show(self.VideoModeBar, IsCounting(self))
-	Show(self.ConfirmBar, self:IsSettingsMarkAsDirty() and not IsCounting(self))
+	Kit.Show(self.VideoModeBar, IsCounting(self))
+	Kit.Show(self.ConfirmBar, self:IsSettingsMarkAsDirty() and not IsCounting(self))
 	self.Rows:SetIsEnabled(not IsCounting(self))
 	-- Without a frame the window is as large as the desktop, whatever is chosen here.
 	self.Resolution:SetIsEnabled(User(self):GetFullscreenMode() == "Windowed")

@@ -94,6 +94,11 @@ function StyleButton(Button, Fill, Rest, Hover, Radius)
 	return Button
 end
 
+-- Shows a widget, or takes it out of the screen.
+function Show(Widget, Shown)
+	Widget:SetVisibility(Shown and "Visible" or "Collapsed")
+end
+
 -- Adds a child and sets properties of its place.
 function Add(Panel, Child, Place)
 	local Slot = Panel:AddChild(Child)

@@ -2,19 +2,12 @@
 
 local Kit = Import("/HalvexPro/Shared/Kit")
 local Controls = Import("/HalvexPro/Shared/Controls")
+local Account = Import("/HalvexPro/User/Account")
 local Texts = Import("/HalvexPro/User/UserTexts")
-
-local function User()
-	return Subsystem("/Script/HalvexSDK.HalvexSDKEngineSubsystem"):GetHalvexUser()
-end
-
-local function Show(Widget, Shown)
-	Widget:SetVisibility(Shown and "Visible" or "Collapsed")
-end
 
 local function ShowMessage(self, Message)
 	self.MessageText:SetText(Message)
-	Show(self.MessageBar, Message ~= "")
+	Kit.Show(self.MessageBar, Message ~= "")
 end
 
 local function ShowRemember(self)
@@ -59,8 +52,8 @@ local function FocusField(self)
 end
 
 local function ShowForm(self)
-	Show(self.RememberedBox, false)
-	Show(self.FormBox, true)
+	Kit.Show(self.RememberedBox, false)
+	Kit.Show(self.FormBox, true)
 	self.Explanation:SetText("With your user name and password.")
 	FocusField(self)
 end
@@ -71,9 +64,9 @@ local function ShowRemembered(self, Name)
 	self.RememberedInitials:SetText(Texts.Initials(Name))
 	self.Continue.Caption = "Continue as " .. Name
 	self.Continue:Refresh()
-	Show(self.FormBox, false)
+	Kit.Show(self.FormBox, false)
 	self.Explanation:SetText("Welcome back.")
-	Show(self.RememberedBox, true)
+	Kit.Show(self.RememberedBox, true)
 end
 
 local function Submit(self)
@@ -95,8 +88,8 @@ function StartAnew(self)
 	self.NameBox:SetText("")
 	ForgetPassword(self)
 	SetRemember(self, false)
-	if User() and User():HasRememberedCredentials() then
-		OnLoadRememberOptions(self, User():GetUserInfo())
+	if Account.User() and Account.User():HasRememberedCredentials() then
+		OnLoadRememberOptions(self, Account.User():GetUserInfo())
 	else
 		ShowForm(self)
 	end
@@ -113,8 +106,8 @@ function OnLoginInProcess(self, InProgress)
 	local Pressed = Form and self.SignIn or self.Continue
 	self.Fields:SetIsEnabled(not InProgress)
 	self.OtherAccount:SetIsEnabled(not InProgress)
-	Show(self.Guest, not InProgress)
-	Show(self.Cancel, InProgress)
+	Kit.Show(self.Guest, not InProgress)
+	Kit.Show(self.Cancel, InProgress)
 	Pressed.Spinning = InProgress
 	self.SignIn.Caption = InProgress and Form and "Signing in ..." or "Sign in"
 	Pressed:Refresh()
@@ -167,7 +160,7 @@ function OnInitialized(self)
 		ShowForm(self)
 	end)
 	self.Guest.Button.OnClickWithID:Add(function() self:RequestGuestLogin() end)
-	self.Cancel.Button.OnClickWithID:Add(function() User():CancelLogin() end)
+	self.Cancel.Button.OnClickWithID:Add(function() Account.User():CancelLogin() end)
 end
 
 function PreConstruct(self)

@@ -3,19 +3,12 @@
 
 local Kit = Import("/HalvexPro/Shared/Kit")
 local Controls = Import("/HalvexPro/Shared/Controls")
+local Account = Import("/HalvexPro/User/Account")
 local Texts = Import("/HalvexPro/User/UserTexts")
 
-local function User()
-	return Subsystem("/Script/HalvexSDK.HalvexSDKEngineSubsystem"):GetHalvexUser()
-end
-
-local function Show(Widget, Shown)
-	Widget:SetVisibility(Shown and "Visible" or "Collapsed")
-end
-
 local function ShowMenu(self, Shown)
-	Show(self.Menu, Shown)
-	Show(self.ClickAway, Shown)
+	Kit.Show(self.Menu, Shown)
+	Kit.Show(self.ClickAway, Shown)
 	self.Arrow:SetRenderTransformAngle(Shown and 180 or 0)
 end
 
@@ -31,7 +24,7 @@ local function ShowPicture(self, Texture)
 	Brush.ResourceObject = Texture
 	Brush.ImageSize = { X = 34, Y = 34 }
 	self.Picture:SetBrush(Brush)
-	Show(self.Picture, true)
+	Kit.Show(self.Picture, true)
 end
 
 function OnUserLogged(self, Info)
@@ -39,10 +32,10 @@ function OnUserLogged(self, Info)
 	self.InitialsText:SetText(Texts.Initials(Info.DisplayName))
 	self.MenuNameText:SetText(Info.DisplayName)
 	self.MenuMailText:SetText(Info.bIsGuest and "Signed in as a guest" or Info.Email)
-	Show(self.MenuMailText, Info.bIsGuest or Info.Email ~= "")
-	Show(self.SignIn, Info.bIsGuest)
-	Show(self.Picture, false)
-	Show(self.Stack, true)
+	Kit.Show(self.MenuMailText, Info.bIsGuest or Info.Email ~= "")
+	Kit.Show(self.SignIn, Info.bIsGuest)
+	Kit.Show(self.Picture, false)
+	Kit.Show(self.Stack, true)
 	ShowMenu(self, false)
 	TellScreen(self)
 	if Info.UserImage.Address ~= "" then
@@ -58,14 +51,14 @@ end
 
 function OnUserLogout(self)
 	ShowMenu(self, false)
-	Show(self.Stack, false)
+	Kit.Show(self.Stack, false)
 	TellScreen(self)
 end
 
 function OnInitialized(self)
 	self.BadgeButton.OnClickWithID:Add(function() ShowMenu(self, self.Menu:GetVisibility() ~= "Visible") end)
 	self.ClickAway.OnClicked:Add(function() ShowMenu(self, false) end)
-	self.SignOut.Button.OnClickWithID:Add(function() User():RequestUserLogout() end)
+	self.SignOut.Button.OnClickWithID:Add(function() Account.User():RequestUserLogout() end)
 	self.SignIn.Button.OnClickWithID:Add(function()
 		ShowMenu(self, false)
 		if self.Screen then

@@ -1,12 +1,13 @@
 -- What belongs to the user, over the right side of a scene: the badge or the way to sign in, and the settings.
 
+local Kit = Import("/HalvexPro/Shared/Kit")
 local Controls = Import("/HalvexPro/Shared/Controls")
 
 -- Over the screen that this is part of.
 local PageOrder = 10
 
 function UserChanged(self)
-	self.ToSignIn:SetVisibility(self.Badge:IsUserLogged() and "Collapsed" or "Visible")
+	Kit.Show(self.ToSignIn, not self.Badge:IsUserLogged())
 end
 
 function ShowSignIn(self)

@@ -4,8 +4,8 @@
 #include "Dom/JsonValue.h"
 #include "Filters/UnitColumns.h"
 #include "HAL/FileManager.h"
+#include "Project/JsonRoot.h"
 #include "Project/SafeFile.h"
-#include "Serialization/JsonReader.h"
 #include "Serialization/JsonSerializer.h"
 #include "Serialization/JsonWriter.h"
 #include "UObject/Class.h"
@@ -196,12 +196,9 @@ FString FUnitFilterSetFile::ToJson(const FUnitFilterSet& Set)
 bool FUnitFilterSetFile::FromJson(const FString& Text, FUnitFilterSet& OutSet, FReadProblems& Problems)
 {
 	OutSet = FUnitFilterSet();
-	TSharedPtr<FJsonObject> Root;
-	const TSharedRef<TJsonReader<>> Reader = TJsonReaderFactory<>::Create(Text);
-	if (!FJsonSerializer::Deserialize(Reader, Root))
+	const TSharedPtr<FJsonObject> Root = FJsonRoot::Read(Text, Problems);
+	if (!Root)
 	{
-		const FString& Message = Reader->GetErrorMessage();
-		Problems.Add(Reader->GetLineNumber(), Reader->GetCharacterNumber(), Message.IsEmpty() ? FString(TEXT("expected an object")) : Message);
 		return false;
 	}
 	FString FoundFormat;

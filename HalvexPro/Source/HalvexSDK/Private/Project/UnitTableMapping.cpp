@@ -1,7 +1,8 @@
 #include "Project/UnitTableMapping.h"
 
+#include "Dom/JsonObject.h"
+#include "Project/JsonRoot.h"
 #include "Project/UnitRecordFields.h"
-#include "Serialization/JsonSerializer.h"
 
 namespace
 {
@@ -67,12 +68,9 @@ bool FUnitTableMapping::FindField(const FString& Name, EUnitTableField& OutField
 bool FUnitTableMapping::FromJson(const FString& Text, FUnitTableMapping& OutMapping, FReadProblems& Problems)
 {
 	OutMapping = FUnitTableMapping();
-	TSharedPtr<FJsonObject> Root;
-	const TSharedRef<TJsonReader<>> Reader = TJsonReaderFactory<>::Create(Text);
-	if (!FJsonSerializer::Deserialize(Reader, Root))
+	const TSharedPtr<FJsonObject> Root = FJsonRoot::Read(Text, Problems);
+	if (!Root)
 	{
-		const FString& Message = Reader->GetErrorMessage();
-		Problems.Add(Reader->GetLineNumber(), Reader->GetCharacterNumber(), Message.IsEmpty() ? FString(TEXT("expected an object")) : Message);
 		return false;
 	}
 
