@@ -139,6 +139,32 @@ TEST(SceneContent, ColoursChangeNeitherShapesNorShadows)
 	EXPECT_EQ(Content.GetShadowRevision(), Shadows);
 }
 
+TEST(SceneContent, RoughnessIsKeptOnceAnyVolumeIsSmooth)
+{
+	FSceneContent Content;
+	Content.AddBox(FSceneBox());
+	Content.AddBox(FSceneBox());
+	const uint64 Revision = Content.GetRevision();
+	const uint64 Colours = Content.GetColourRevision();
+	const uint64 Roughness = Content.GetRoughnessRevision();
+
+	Content.SetRoughness(1, 1.0f);
+	EXPECT_EQ(Content.GetRevision(), Revision);
+	EXPECT_TRUE(Content.GetRoughness().IsEmpty());
+
+	Content.SetRoughness(1, 0.2f);
+	EXPECT_EQ(Content.GetRoughness(), TArray<uint8>({ 255, 51 }));
+	EXPECT_NE(Content.GetRevision(), Revision);
+	EXPECT_NE(Content.GetRoughnessRevision(), Roughness);
+	EXPECT_EQ(Content.GetColourRevision(), Colours);
+
+	Content.AddBox(FSceneBox());
+	Content.SetRoughness(1, -3.0f);
+	EXPECT_EQ(Content.GetRoughness(), TArray<uint8>({ 255, 0, 255 }));
+	Content.Empty();
+	EXPECT_TRUE(Content.GetRoughness().IsEmpty());
+}
+
 TEST(SceneContent, GhostsAreCountedAndThrowNoShadow)
 {
 	FSceneContent Content;

@@ -58,6 +58,18 @@ TEST(FInteriorContentTest, LooksColourAllPartsOfTheirSurfaceAndNoOther)
 	EXPECT_EQ(GetColour(Content, 2), Blue);
 }
 
+TEST(FInteriorContentTest, LooksSayHowSmoothAPartIs)
+{
+	FInteriorContent Content(MakeInterior());
+	FVariantSurfaceLook Polished = MakeLook(TEXT("Wall"), Blue);
+	Polished.Roughness = 0.2f;
+	EXPECT_TRUE(Content.ShowLooks({ Polished }));
+	const int32 Wall = Content.FindVolumes(TEXT("Wall"))[0];
+	EXPECT_EQ(Content.GetContent()->GetRoughness()[Wall], 51);
+	Content.ShowLooks({});
+	EXPECT_EQ(Content.GetContent()->GetRoughness()[Wall], 255) << "by themselves parts are matt";
+}
+
 TEST(FInteriorContentTest, WhatIsNoLongerSaidLooksAsItWasMade)
 {
 	FInteriorContent Content(MakeInterior());

@@ -333,6 +333,34 @@ TEST_F(FSceneRendererTest, ColoursOfSingleVolumesAreShown)
 	EXPECT_GT(Red.R, Red.G + 80);
 }
 
+TEST_F(FSceneRendererTest, SmoothVolumesMirrorTheSunWhereTheEyeMeetsIt)
+{
+	// The sun is at 45 degrees over low X, and the eye over high X at the same height: the roof throws the one to the other.
+	View = FSceneView::FromAngles(FVector(1000.0, 0.0, 2000.0), 180.0, -45.0);
+	const FVector Roof(0.0, 0.0, 1000.0);
+	const FVector Aside(0.0, -450.0, 1000.0);
+	Draw();
+	EXPECT_LT(FPictureReader(*Renderer).At(View, Roof).G, 10) << "black chalk gives no light back";
+
+	Content.SetRoughness(0, 0.5f);
+	Draw();
+	const int32 SatinRoof = FPictureReader(*Renderer).At(View, Roof).G;
+	const int32 SatinAside = FPictureReader(*Renderer).At(View, Aside).G;
+	Content.SetRoughness(0, 0.05f);
+	Draw();
+	const int32 MirrorRoof = FPictureReader(*Renderer).At(View, Roof).G;
+	const int32 MirrorAside = FPictureReader(*Renderer).At(View, Aside).G;
+
+	EXPECT_GT(SatinRoof, 25);
+	EXPECT_GT(MirrorRoof, SatinRoof);
+	EXPECT_GT(MirrorRoof - MirrorAside, SatinRoof - SatinAside + 20) << "the sun is a smaller spot in a mirror";
+	EXPECT_GT(MirrorAside, 20) << "which else shows the sky";
+
+	Content.SetRoughness(0, 1.0f);
+	Draw();
+	EXPECT_LT(FPictureReader(*Renderer).At(View, Roof).G, 10);
+}
+
 TEST_F(FSceneRendererTest, GhostsLetShowWhatIsBehind)
 {
 	Draw();

@@ -11,6 +11,9 @@ namespace Host
 		/** Changes of colour that are remembered one by one; beyond that it is cheaper to take all of them anew. */
 		constexpr int32 MostRecentColours = 4096;
 
+		/** The roughness of what mirrors nothing. */
+		constexpr uint8 Chalk = 255;
+
 		/** Far enough from those of other contents, however much is changed. */
 		uint64 MakeFirstRevision()
 		{
@@ -91,6 +94,7 @@ namespace Host
 		, ShapeRevision(Revision)
 		, ShadowRevision(Revision)
 		, ColourRevision(Revision)
+		, RoughnessRevision(Revision)
 	{
 	}
 
@@ -99,6 +103,11 @@ namespace Host
 		Volumes.Add(FVolume{ bBox, Index });
 		Colours.Add(Colour.ToFColorSRGB());
 		NumGhosts += IsGhost(Colours.Last());
+		if (!Roughness.IsEmpty())
+		{
+			Roughness.Add(Chalk);
+			++RoughnessRevision;
+		}
 		Bounds += VolumeBounds;
 		++Revision;
 		++ShapeRevision;
@@ -165,6 +174,7 @@ namespace Host
 		Boxes.Empty();
 		Outlines.Empty();
 		Colours.Empty();
+		Roughness.Empty();
 		RecentColours.Empty();
 		Bounds = FBox(ForceInit);
 		NumGhosts = 0;
@@ -172,6 +182,23 @@ namespace Host
 		++ShapeRevision;
 		++ShadowRevision;
 		++ColourRevision;
+		++RoughnessRevision;
+	}
+
+	void FSceneContent::SetRoughness(int32 Index, float InRoughness)
+	{
+		const uint8 New = static_cast<uint8>(FMath::RoundToInt32(FMath::Clamp(InRoughness, 0.0f, 1.0f) * Chalk));
+		if (New == (Roughness.IsEmpty() ? Chalk : Roughness[Index]))
+		{
+			return;
+		}
+		if (Roughness.IsEmpty())
+		{
+			Roughness.Init(Chalk, Num());
+		}
+		Roughness[Index] = New;
+		++Revision;
+		++RoughnessRevision;
 	}
 
 	void FSceneContent::SetColour(int32 Index, const FColor& New)

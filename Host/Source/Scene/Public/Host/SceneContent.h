@@ -118,6 +118,10 @@ namespace Host
 		void SetColour(int32 Index, const FColor& Colour);
 		/** As sRGB, B, G, R, A in memory. */
 		const TArray<FColor>& GetColours() const { return Colours; }
+		/** Sets how smooth a solid volume is: 0 for a mirror of sky and sun, 1, as at first, for chalk. */
+		void SetRoughness(int32 Index, float InRoughness);
+		/** In 255ths by volume; empty while all are 1. */
+		const TArray<uint8>& GetRoughness() const { return Roughness; }
 		/** Volumes that are drawn, but not solid. */
 		int32 GetNumGhosts() const { return NumGhosts; }
 
@@ -134,6 +138,8 @@ namespace Host
 		uint64 GetShapeRevision() const { return ShapeRevision; }
 		/** Changes with what is solid and with the environment. */
 		uint64 GetShadowRevision() const { return ShadowRevision; }
+		/** Changes with the roughness of any volume. */
+		uint64 GetRoughnessRevision() const { return RoughnessRevision; }
 		/** Grows by one with each colour that is set. */
 		uint64 GetColourRevision() const { return ColourRevision; }
 
@@ -150,6 +156,7 @@ namespace Host
 		TArray<FPlacedBox> Boxes;
 		TArray<FExtrusion> Outlines;
 		TArray<FColor> Colours;
+		TArray<uint8> Roughness;
 		FSceneEnvironment Environment;
 		FBox Bounds = FBox(ForceInit);
 		int32 NumGhosts = 0;
@@ -157,6 +164,7 @@ namespace Host
 		uint64 ShapeRevision;
 		uint64 ShadowRevision;
 		uint64 ColourRevision;
+		uint64 RoughnessRevision;
 		/** The volumes of the last changes of colour, the newest last. */
 		TArray<int32> RecentColours;
 	};

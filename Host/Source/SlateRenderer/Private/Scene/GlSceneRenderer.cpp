@@ -20,6 +20,7 @@ namespace Host
 			ColoursUnit = 0,
 			ShadowUnit = 1,
 			FootprintUnit = 2,
+			RoughnessUnit = 3,
 		};
 
 		/** Sizes of the scene from its middle at which the haze begins and hides all, and where the ground ends. */
@@ -174,8 +175,10 @@ namespace Host
 			glUniform1i(glGetUniformLocation(Name, "Source"), ColoursUnit);
 			glUniform1i(glGetUniformLocation(Name, "ShadowMap"), ShadowUnit);
 			glUniform1i(glGetUniformLocation(Name, "Footprints"), FootprintUnit);
+			glUniform1i(glGetUniformLocation(Name, "Roughnesses"), RoughnessUnit);
 		}
 		PassLocation = glGetUniformLocation(VolumeProgram.Get(), "Pass");
+		AnySmoothLocation = glGetUniformLocation(VolumeProgram.Get(), "AnySmooth");
 		GroundSizeLocation = glGetUniformLocation(GroundProgram.Get(), "HalfSize");
 		RatioLocation = glGetUniformLocation(ScaleProgram.Get(), "Ratio");
 		ShadowPrograms.BlurStep = glGetUniformLocation(ShadowPrograms.Blur.Get(), "Step");
@@ -256,6 +259,8 @@ namespace Host
 		glBindTexture(GL_TEXTURE_2D, Shadows.GetShadowMap());
 		glActiveTexture(GL_TEXTURE0 + FootprintUnit);
 		glBindTexture(GL_TEXTURE_2D, Shadows.GetFootprints());
+		glActiveTexture(GL_TEXTURE0 + RoughnessUnit);
+		Shapes.BindRoughness();
 		glActiveTexture(GL_TEXTURE0 + ColoursUnit);
 		Shapes.BindColours();
 		DrawVolumes(Content);
@@ -281,6 +286,7 @@ namespace Host
 		glEnable(GL_CULL_FACE);
 		glUseProgram(VolumeProgram.Get());
 		glUniform1i(PassLocation, 0);
+		glUniform1i(AnySmoothLocation, Shapes.IsAnySmooth() ? 1 : 0);
 		Shapes.Draw(Counters);
 		DrawBackground(Content);
 		if (Content.GetNumGhosts() > 0)

@@ -65,6 +65,7 @@ namespace Host
 		FGlObject SkyProgram;
 		FGlObject ScaleProgram;
 		GLint PassLocation = -1;
+		GLint AnySmoothLocation = -1;
 		GLint GroundSizeLocation = -1;
 		GLint RatioLocation = -1;
 		int32 MaxSamples = 1;

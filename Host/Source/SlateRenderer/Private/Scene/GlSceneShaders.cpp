@@ -111,17 +111,23 @@ layout(location = 4) in vec4 InExtent;
 layout(location = 5) in uint InVolume;
 
 uniform sampler2D Colours;
+uniform sampler2D Roughnesses;
+// 1 when not all volumes are as rough as can be.
+uniform int AnySmooth;
 // 0 draws what is solid, 1 what is seen through.
 uniform int Pass;
 
 out vec3 Place;
 flat out vec3 Normal;
 flat out vec4 Colour;
+flat out float Gloss;
 out vec4 EdgeDistances;
 
 void main()
 {
-	Colour = texelFetch(Colours, ivec2(InVolume & 1023u, InVolume >> 10u), 0);
+	ivec2 Texel = ivec2(InVolume & 1023u, InVolume >> 10u);
+	Colour = texelFetch(Colours, Texel, 0);
+	Gloss = AnySmooth == 1 ? 1.0 - texelFetch(Roughnesses, Texel, 0).r : 0.0;
 	mat2 Turn = mat2(InCentre.w, InExtent.w, -InExtent.w, InCentre.w);
 	vec3 Scaled = InPlace * InExtent.xyz;
 	Place = vec3(Turn * Scaled.xy, Scaled.z) + InCentre.xyz;
@@ -137,8 +143,23 @@ void main()
 in vec3 Place;
 flat in vec3 Normal;
 flat in vec4 Colour;
+flat in float Gloss;
 in vec4 EdgeDistances;
 out vec4 Result;
+
+// What a smooth surface mirrors, as varnish does: sky or ground, more of it at a flat angle (Schlick's approximation of Fresnel's
+// law), and the sun as a spot that is the smaller and brighter the smoother the surface is (Blinn and Phong, normalised).
+vec3 GetMirrored()
+{
+	vec3 ToEye = normalize(Eye.xyz - Place);
+	vec3 Mirror = reflect(-ToEye, Normal);
+	float Share = Gloss * Gloss * mix(0.04, 1.0, pow(1.0 - max(dot(Normal, ToEye), 0.0), 5.0));
+	vec3 Around = mix(GroundLight.rgb, mix(Horizon.rgb, Zenith.rgb, max(Mirror.z, 0.0)), smoothstep(-0.1, 0.1, Mirror.z));
+	float Power = exp2(9.0 * Gloss);
+	float Spot = (Power + 8.0) / 25.0 * pow(max(dot(Normal, normalize(ToEye + SunDirection.xyz)), 0.0), Power);
+	float Sun = dot(Normal, SunDirection.xyz) > 0.0 ? Spot * GetSunShare(Place, Normal) : 0.0;
+	return Share * (Around + SunColour.rgb * Sun);
+}
 
 float GetLine()
 {
@@ -156,6 +177,10 @@ float GetLine()
 void main()
 {
 	vec3 Lit = GetLit(Colour.rgb, Place, Normal);
+	if (Gloss > 0.0)
+	{
+		Lit += GetMirrored();
+	}
 	float Line = GetLine() * Edges.y;
 	Lit *= 1.0 - Line;
 	float Alpha = mix(Colour.a, 0.5 + 0.5 * Colour.a, Line);

@@ -75,6 +75,19 @@ namespace Host
 		}
 	}
 
+	namespace
+	{
+		/** A texture whose texels are fetched by volume. */
+		FGlObject MakeTexels(const ANSICHAR* Label)
+		{
+			FGlObject Texture(EGlObjectKind::Texture, Label);
+			glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
+			glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
+			glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, 0);
+			return Texture;
+		}
+	}
+
 	void FGlSceneShapes::Create()
 	{
 		TArray<FSceneVertex> Vertices;
@@ -94,10 +107,8 @@ namespace Host
 		glEnableVertexAttribArray(Volume);
 		glVertexAttribIPointer(Volume, 1, GL_UNSIGNED_INT, sizeof(FSceneVertex), ToOffset(offsetof(FSceneVertex, Volume)));
 
-		Colours = FGlObject(EGlObjectKind::Texture, "Scene colours");
-		glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
-		glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
-		glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAX_LEVEL, 0);
+		Colours = MakeTexels("Scene colours");
+		Roughness = MakeTexels("Scene roughness");
 	}
 
 	void FGlSceneShapes::Update(const FSceneContent& Content, FSceneCounters& Counters)
@@ -119,6 +130,11 @@ namespace Host
 			UpdateColours(Content, Counters);
 		}
 		ColourRevision = Content.GetColourRevision();
+		if (Content.GetRoughnessRevision() != RoughnessRevision)
+		{
+			UploadRoughness(Content, Counters);
+			RoughnessRevision = Content.GetRoughnessRevision();
+		}
 	}
 
 	void FGlSceneShapes::UploadBoxes(const FSceneContent& Content, FSceneCounters& Counters)
@@ -182,6 +198,21 @@ namespace Host
 		for (const int32 Index : Changed)
 		{
 			UploadColours(Index / ColoursPerRow, FIntPoint(1, 1), Index % ColoursPerRow, &Content.GetColours()[Index], Counters);
+		}
+	}
+
+	void FGlSceneShapes::UploadRoughness(const FSceneContent& Content, FSceneCounters& Counters)
+	{
+		const TArray<uint8>& All = Content.GetRoughness();
+		bAnySmooth = !All.IsEmpty();
+		if (bAnySmooth)
+		{
+			const int32 NumRows = FMath::DivideAndRoundUp(All.Num(), ColoursPerRow);
+			TArray<uint8> Rows = All;
+			Rows.SetNumZeroed(NumRows * ColoursPerRow);
+			glBindTexture(GL_TEXTURE_2D, Roughness.Get());
+			glTexImage2D(GL_TEXTURE_2D, 0, GL_R8, ColoursPerRow, NumRows, 0, GL_RED, GL_UNSIGNED_BYTE, Rows.GetData());
+			Counters.UploadedBytes += Rows.Num();
 		}
 	}
 

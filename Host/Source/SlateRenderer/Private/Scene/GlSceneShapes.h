@@ -8,7 +8,10 @@ namespace Host
 	class FSceneContent;
 	struct FSceneCounters;
 
-	/** The volumes as OpenGL has them: boxes as instances of a cube, outlines as one mesh, and a texel of colour for each. */
+	/**
+	 * The volumes as OpenGL has them: boxes as instances of a cube, outlines as one mesh, and a texel of colour for each, and one of
+	 * roughness where any is smooth.
+	 */
 	class FGlSceneShapes
 	{
 	public:
@@ -24,6 +27,9 @@ namespace Host
 		void Draw(FSceneCounters& Counters) const;
 
 		void BindColours() const { glBindTexture(GL_TEXTURE_2D, Colours.Get()); }
+		/** Of no use unless IsAnySmooth(). */
+		void BindRoughness() const { glBindTexture(GL_TEXTURE_2D, Roughness.Get()); }
+		bool IsAnySmooth() const { return bAnySmooth; }
 		const FVector& GetOrigin() const { return Origin; }
 
 	private:
@@ -31,6 +37,7 @@ namespace Host
 		void UploadOutlines(const FSceneContent& Content, FSceneCounters& Counters);
 		void UploadAllColours(const FSceneContent& Content, FSceneCounters& Counters);
 		void UpdateColours(const FSceneContent& Content, FSceneCounters& Counters);
+		void UploadRoughness(const FSceneContent& Content, FSceneCounters& Counters);
 
 		FGlObject BoxArray;
 		FGlObject Cube;
@@ -38,6 +45,7 @@ namespace Host
 		FGlObject OutlineArray;
 		FGlObject Outlines;
 		FGlObject Colours;
+		FGlObject Roughness;
 		FVector Origin = FVector(0.0, 0.0, 0.0);
 		int32 NumCubeVertices = 0;
 		int32 NumBoxes = 0;
@@ -45,6 +53,8 @@ namespace Host
 		/** Of the content that was uploaded last. */
 		uint64 ShapeRevision = 0;
 		uint64 ColourRevision = 0;
+		uint64 RoughnessRevision = 0;
+		bool bAnySmooth = false;
 		int32 NumColourRows = 0;
 	};
 }

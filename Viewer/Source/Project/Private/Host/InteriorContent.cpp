@@ -85,16 +85,17 @@ namespace Host
 
 	bool FInteriorContent::ShowLooks(TConstArrayView<FVariantSurfaceLook> Looks)
 	{
-		TMap<FName, FColor> ColourOfSurface;
+		TMap<FName, const FVariantSurfaceLook*> LookOfSurface;
 		for (const FVariantSurfaceLook& Look : Looks)
 		{
-			ColourOfSurface.Add(Look.Surface, Look.Color.ToFColorSRGB());
+			LookOfSurface.Add(Look.Surface, &Look);
 		}
 		const uint64 Before = Content->GetRevision();
 		for (const FPart& Part : Parts)
 		{
-			const FColor* const Colour = ColourOfSurface.Find(Part.Surface);
-			Content->SetColour(Part.Volume, Colour ? *Colour : Part.Own);
+			const FVariantSurfaceLook* const Look = LookOfSurface.FindRef(Part.Surface);
+			Content->SetColour(Part.Volume, Look ? Look->Color.ToFColorSRGB() : Part.Own);
+			Content->SetRoughness(Part.Volume, Look ? Look->Roughness : 1.0f);
 		}
 		return Content->GetRevision() != Before;
 	}

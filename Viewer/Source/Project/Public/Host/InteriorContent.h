@@ -29,7 +29,7 @@ namespace Host
 		bool HasDistance() const { return Camera.Distance > 0.0; }
 
 		/**
-		 * Colours the parts of these surfaces, and all others as they are by themselves. Scenes know no roughness: it is left out.
+		 * Shows the parts of these surfaces so, and all others as they are by themselves, in their colour and matt.
 		 * @return whether anything looks different
 		 */
 		bool ShowLooks(TConstArrayView<FVariantSurfaceLook> Looks);
