@@ -115,7 +115,8 @@ TEST_F(FConfiguratorSceneTest, RoomsTakeThePlaceOfTheUnitsWhileTheConfiguratorIs
 
 TEST_F(FConfiguratorSceneTest, UnitsWithoutRoomsOpenNothing)
 {
-	AUnitVolumeActor* const* const Lobby = Manager().GetUnitVolumes().FindByPredicate([](const AUnitVolumeActor* Unit) { return Unit->GetUnitData().Interior.IsNone(); });
+	const TArray<AUnitVolumeActor*> UnitVolumes = Manager().GetUnitVolumes();
+	AUnitVolumeActor* const* const Lobby = UnitVolumes.FindByPredicate([](const AUnitVolumeActor* Unit) { return Unit->GetUnitData().Interior.IsNone(); });
 	ASSERT_TRUE(Lobby);
 	Manager().SelectUnitVolume(*Lobby, false);
 	EXPECT_FALSE(Session().OpenConfigurator());
