@@ -12,6 +12,7 @@
 #include "ServiceLog.h"
 #include "ServiceSessions.h"
 #include "SignInAttempts.h"
+#include "UserMembers.h"
 
 #include <chrono>
 #include <mutex>
@@ -63,14 +64,7 @@ namespace
 		Writer.Bool(bGuest);
 		Writer.Key(TEXT("user"));
 		Writer.BeginObject();
-		Writer.Key(TEXT("id"));
-		Writer.String(User.Id);
-		Writer.Key(TEXT("userName"));
-		Writer.String(User.UserName);
-		Writer.Key(TEXT("displayName"));
-		Writer.String(User.DisplayName);
-		Writer.Key(TEXT("email"));
-		Writer.String(User.Email);
+		Host::WriteUserMembers(User, Writer);
 		if (!User.Picture.IsEmpty())
 		{
 			Writer.Key(TEXT("picture"));

@@ -4,10 +4,10 @@
 #include "Crypto.h"
 #include "Host/Files.h"
 #include "Host/JsonDocument.h"
-#include "Host/JsonWriter.h"
 #include "Misc/Guid.h"
 #include "Misc/Paths.h"
 #include "ServiceLog.h"
+#include "UserMembers.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -118,14 +118,7 @@ namespace
 	void WriteUser(const FProjectUser& User, Host::FJsonWriter& Writer)
 	{
 		Writer.BeginObject();
-		Writer.Key(TEXT("id"));
-		Writer.String(User.Id);
-		Writer.Key(TEXT("userName"));
-		Writer.String(User.UserName);
-		Writer.Key(TEXT("displayName"));
-		Writer.String(User.DisplayName);
-		Writer.Key(TEXT("email"));
-		Writer.String(User.Email);
+		Host::WriteUserMembers(User, Writer);
 		Writer.Key(TEXT("passwordHash"));
 		Writer.String(User.PasswordHash);
 		Writer.EndObject();
